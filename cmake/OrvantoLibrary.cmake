@@ -1,0 +1,19 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+
+# The suffix of the files that hold one operating system's side of src/platform/.
+if(WIN32)
+    set(ORVANTO_SYSTEM windows)
+else()
+    set(ORVANTO_SYSTEM unix)
+endif()
+
+# orvanto_library(folder SOURCES ... USES ...): the static library of one folder of src/.
+function(orvanto_library folder)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;USES")
+    qt_add_library(orvanto_${folder} STATIC ${ARG_SOURCES})
+    target_link_libraries(orvanto_${folder} PUBLIC orvanto_options ${ARG_USES})
+    set_target_properties(orvanto_${folder} PROPERTIES
+        AUTOUIC ON
+        AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/forms")
+endfunction()

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QTranslator>
+
+class QTreeWidget;
+
+/// One language on offer.
+struct LanguageEntry
+{
+    QString language;
+    QString country;
+    QString fileName; ///< within the locale folder; empty for the built-in English
+    QString iconPath;
+    QString code; ///< for example "de_DE"
+};
+
+/// The process-wide translation manager: finds the translations in the folder "locale" beside the program and
+/// installs the chosen one.
+class Localizer final
+{
+public:
+    static Localizer *instance();
+    static void destroy();
+
+    Localizer() = default;
+    Q_DISABLE_COPY_MOVE(Localizer)
+
+    /// Fills the list of languages and installs the saved one. To be called once.
+    void discover();
+
+    /// Saves the code as the chosen language and installs its translation. A code without a translation, or a
+    /// file that does not load, leaves the interface in English.
+    void setLanguage(const QString &code);
+
+    /// The first language with exactly this code, or null. Valid until the next discover().
+    [[nodiscard]] LanguageEntry *find(const QString &code);
+
+    /// Adds a row per language (code with flag, language, country) and selects the saved one, else English.
+    void fillLanguageTree(QTreeWidget *tree) const;
+
+private:
+    void addDiscovered(const QString &fileName);
+
+    QList<LanguageEntry> languages;
+    QTranslator translator;
+    QString localeDirectory;
+};

@@ -1,0 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+/// QFile::rename without its last resort. Where the file system refuses a rename, QFile::rename copies the
+/// bytes into the target, which it opens with truncation, and deletes the source: a target that appeared in
+/// the meantime, or a dangling link's destination, would be overwritten. This one never copies: the file is
+/// moved by the file system in one step, or stays where it is and the result is false.
+[[nodiscard]] bool renameFile(const QString &from, const QString &to);
