@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QApplication>
+
+class MainWindow;
+
+/// The application object: start-up in a fixed order, and shutdown in the reverse one when it is destroyed.
+class Application final : public QApplication
+{
+    Q_OBJECT
+
+public:
+    Application(int &argumentCount, char **arguments);
+    ~Application() override;
+    Q_DISABLE_COPY_MOVE(Application)
+
+    /// Brings everything up to the visible window. May throw what setupDataDirectory() throws; nothing is
+    /// saved then when the object is destroyed.
+    void init();
+
+private:
+    void setValidationPatterns();
+    void logStart() const;
+    void createMainWindow();
+    void presentMainWindow();
+
+    MainWindow *mainWindow = nullptr;
+    bool initialized = false;
+};

@@ -1,0 +1,191 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/listwidgetfiles.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A layout that took t is followed by none for this many times t.
+constexpr int layoutPause = 20;
+
+} // namespace
+
+ListWidgetFiles::ListWidgetFiles(QWidget *parent)
+    : QListWidget(parent)
+{
+    setDragEnabled(true);
+    setAcceptDrops(true);
+    setDropIndicatorShown(true);
+    setAlternatingRowColors(true);
+    setAutoFillBackground(true);
+
+    layoutTimer.setSingleShot(true);
+    connect(&layoutTimer, &QTimer::timeout, this, &ListWidgetFiles::showAddedRows);
+    // Nothing sorts or moves rows within the model today; a mirror that is out of step would be worse than
+    // slow.
+    connect(model(), &QAbstractItemModel::layoutChanged, this, &ListWidgetFiles::mirrorAllRows);
+    connect(model(), &QAbstractItemModel::rowsMoved, this, &ListWidgetFiles::mirrorAllRows);
+}
+
+bool ListWidgetFiles::containsPath(const QString &path) const
+{
+    return pathCounts.contains(path);
+}
+
+QString ListWidgetFiles::path(int row) const
+{
+    return paths.at(row);
+}
+
+void ListWidgetFiles::removeSelected()
+{
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    if (selected.isEmpty())
+        return;
+    QList<bool> doomed(count(), false);
+    int firstDoomed = count();
+    for (const QModelIndex &index : selected) {
+        doomed[index.row()] = true;
+        firstDoomed = std::min(firstDoomed, index.row());
+    }
+    // Taking rows out of the middle one by one would move all rows behind them each time, and so would the
+    // list's search for each of those rows later on. Rows are only taken from the end and put back there.
+    selectionModel()->clear();
+    QList<QListWidgetItem *> kept;
+    for (int row = count() - 1; row >= firstDoomed; --row) {
+        QListWidgetItem *item = takeItem(row);
+        if (doomed.at(row))
+            delete item;
+        else
+            kept.append(item);
+    }
+    std::for_each(kept.crbegin(), kept.crend(), [this](QListWidgetItem *item) { addItem(item); });
+    showAddedRows();
+}
+
+void ListWidgetFiles::showAddedRows()
+{
+    layoutTimer.stop();
+    if (firstAddedRow < 0)
+        return;
+    const int first = std::exchange(firstAddedRow, -1);
+    QListWidget::rowsInserted({}, first, lastAddedRow);
+}
+
+void ListWidgetFiles::doItemsLayout()
+{
+    sinceLayout.start();
+    QListWidget::doItemsLayout();
+    layoutCost = sinceLayout.nsecsElapsed();
+    sinceLayout.start();
+}
+
+void ListWidgetFiles::reset()
+{
+    firstAddedRow = -1;
+    layoutTimer.stop();
+    QListWidget::reset();
+    mirrorAllRows();
+}
+
+void ListWidgetFiles::onClear()
+{
+    clear();
+}
+
+void ListWidgetFiles::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!event->mimeData()->hasUrls()) {
+        event->ignore();
+        return;
+    }
+    setFocus();
+    event->acceptProposedAction();
+}
+
+// Deliberate: the base class's handling of these two never runs; it would refuse what is not a row of a list.
+void ListWidgetFiles::dragMoveEvent(QDragMoveEvent * /*event*/) {}
+
+void ListWidgetFiles::dragLeaveEvent(QDragLeaveEvent * /*event*/) {}
+
+void ListWidgetFiles::dropEvent(QDropEvent *event)
+{
+    emit contentChanged(event->mimeData());
+    event->acceptProposedAction();
+}
+
+void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                  const QList<int> &roles)
+{
+    if (roles.isEmpty() || roles.contains(Qt::UserRole)) {
+        for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
+            discountPath(paths.at(row));
+            paths[row] = item(row)->data(Qt::UserRole).toString();
+            countPath(paths.at(row));
+        }
+    }
+    QListWidget::dataChanged(topLeft, bottomRight, roles);
+}
+
+void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        paths.insert(row, item(row)->data(Qt::UserRole).toString());
+        countPath(paths.at(row));
+    }
+    // The base class throws its layout away for every new row. Rows at the end wait until a layout is due;
+    // what is shown meanwhile is the last layout.
+    const bool follows = firstAddedRow < 0 ? last == count() - 1 : first == lastAddedRow + 1;
+    if (!follows) {
+        showAddedRows();
+        QListWidget::rowsInserted(parent, first, last);
+        return;
+    }
+    if (firstAddedRow < 0)
+        firstAddedRow = first;
+    lastAddedRow = last;
+    const qint64 pause = layoutPause * layoutCost;
+    if (!sinceLayout.isValid() || sinceLayout.nsecsElapsed() >= pause)
+        showAddedRows();
+    else if (!layoutTimer.isActive())
+        layoutTimer.start(std::chrono::ceil<std::chrono::milliseconds>(std::chrono::nanoseconds(pause)));
+}
+
+void ListWidgetFiles::rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
+{
+    showAddedRows();
+    for (int row = first; row <= last; ++row)
+        discountPath(paths.at(row));
+    paths.remove(first, last - first + 1);
+    QListWidget::rowsAboutToBeRemoved(parent, first, last);
+}
+
+void ListWidgetFiles::mirrorAllRows()
+{
+    paths.clear();
+    pathCounts.clear();
+    for (int row = 0; row < count(); ++row) {
+        paths.append(item(row)->data(Qt::UserRole).toString());
+        countPath(paths.constLast());
+    }
+}
+
+void ListWidgetFiles::countPath(const QString &path)
+{
+    ++pathCounts[path];
+}
+
+void ListWidgetFiles::discountPath(const QString &path)
+{
+    const auto counted = pathCounts.find(path);
+    if (counted != pathCounts.end() && --*counted == 0)
+        pathCounts.erase(counted);
+}

@@ -1,0 +1,285 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/mainwindow.h"
+
+#include "core/applog.h"
+#include "core/maker.h"
+#include "core/settingsstore.h"
+#include "platform/shell.h"
+#include "platform/taskbar.h"
+#include "rules/rule.h"
+#include "rules/rulechain.h"
+#include "rules/ruledata.h"
+#include "ui_mainwindow.h"
+
+#include <QDesktopServices>
+#include <QFileSystemModel>
+#include <QKeyEvent>
+#include <QSignalMapper>
+#include <QTimer>
+#include <QTreeView>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Ids of the signal mappers; fixed. The key handling shares those of the lists.
+enum Command { ClearLog, SaveLog, ToggleLogDock, OpenLogFolder, IncludeDebug, GlobalSettings, VisitHome };
+enum VariousCommand { ShowFullPath, ToggleExplorerDock };
+constexpr int removeFilesId = 4;
+constexpr int removeRuleId = 5;
+
+constexpr int logTimerInterval = 250; // milliseconds
+// Deliberate: the cap is applied after each insertion, so the table holds at most 99 rows.
+constexpr int logRowLimit = 100;
+
+} // namespace
+
+MainWindow::MainWindow(Qt::WindowFlags flags)
+    : QMainWindow(nullptr, flags)
+    , ui(std::make_unique<Ui::MainWindow>())
+{
+    ui->setupUi(this);
+}
+
+MainWindow::~MainWindow()
+{
+    qDebug("terminate main window");
+    if (logTimer)
+        logTimer->stop();
+    qDeleteAll(ruleTypes);
+    ruleTypes.clear();
+    qDeleteAll(ruleList);
+    ruleList.clear();
+    taskbarList.reset();
+}
+
+void MainWindow::initialize()
+{
+    createExplorer();
+    connect(ui->listWidgetFiles, &ListWidgetFiles::contentChanged, this, &MainWindow::onFileListAdded);
+    addDockWidget(Qt::RightDockWidgetArea, dockExplorer);
+    createRules();
+    retranslateExplorer();
+    ui->tabWidgetMain->setMinimumSize(ui->tabWidgetMain->sizeHint());
+    ui->treeWidgetRules->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    ui->comboBoxRules->setCurrentIndex(0);
+    ui->tabWidgetMain->setCurrentIndex(0);
+    createMappers();
+    setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
+    createTrayIcon();
+    createLogo();
+    taskbarList = TaskbarList::create(winId());
+    ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    logTimer = new QTimer(this);
+    logTimer->setInterval(logTimerInterval);
+    logTimer->start();
+    connect(logTimer, &QTimer::timeout, this, &MainWindow::onTimeout);
+}
+
+void MainWindow::createExplorer()
+{
+    dockExplorer = new QDockWidget(this);
+    dockExplorer->setObjectName(u"dockWidgetExplorer"_s);
+    auto *contents = new QWidget;
+    dockExplorer->setWidget(contents);
+    dockExplorer->setMinimumWidth(260);
+    dockExplorer->setFeatures(QDockWidget::DockWidgetClosable | QDockWidget::DockWidgetMovable);
+    dockExplorer->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+
+    treeExplorer = new QTreeView(contents);
+    treeExplorer->setDragDropMode(QAbstractItemView::DragOnly);
+    treeExplorer->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    auto *layout = new QVBoxLayout(contents);
+    layout->addWidget(treeExplorer);
+    auto *model = new QFileSystemModel(this);
+    model->setRootPath({});
+    treeExplorer->setModel(model);
+    model->sort(0, Qt::AscendingOrder);
+    for (int column = 1; column < model->columnCount(); ++column)
+        treeExplorer->hideColumn(column);
+}
+
+void MainWindow::createRules()
+{
+    const QList<RuleFactory *> factories = createRuleFactories();
+    for (const RuleFactory *factory : factories) {
+        Rule *rule = factory->create();
+        const int page = ui->stackedWidgetRules->addWidget(rule->createEditor(ui->stackedWidgetRules));
+        ruleTypes.insert(page, rule);
+    }
+    qDeleteAll(factories);
+    ui->stackedWidgetRules->adjustSize();
+}
+
+void MainWindow::createMappers()
+{
+    const auto createMapper = [this](void (MainWindow::*slot)(int)) {
+        auto *mapper = new QSignalMapper(this);
+        connect(mapper, &QSignalMapper::mappedInt, this, slot);
+        return mapper;
+    };
+    const auto mapButton = [](QSignalMapper *mapper, QAbstractButton *button, int id) {
+        connect(button, &QAbstractButton::clicked, mapper, qOverload<>(&QSignalMapper::map));
+        mapper->setMapping(button, id);
+    };
+    const auto mapAction = [](QSignalMapper *mapper, QAction *action, int id) {
+        connect(action, &QAction::triggered, mapper, qOverload<>(&QSignalMapper::map));
+        mapper->setMapping(action, id);
+    };
+
+    QSignalMapper *fileListMapper = createMapper(&MainWindow::onClickedFileList);
+    mapButton(fileListMapper, ui->buttonFileListUp, 2);
+    mapButton(fileListMapper, ui->buttonFileListDown, 3);
+    mapButton(fileListMapper, ui->buttonFileListRemove, removeFilesId);
+
+    QSignalMapper *ruleListMapper = createMapper(&MainWindow::onClickedRuleList);
+    mapButton(ruleListMapper, ui->buttonRuleListRemove, removeRuleId);
+    mapButton(ruleListMapper, ui->buttonRuleListUp, 6);
+    mapButton(ruleListMapper, ui->buttonRuleListDown, 7);
+    mapButton(ruleListMapper, ui->buttonRuleListClear, 8);
+
+    QSignalMapper *variousMapper = createMapper(&MainWindow::onClickedVarious);
+    mapButton(variousMapper, ui->checkBoxShowFullPath, ShowFullPath);
+    mapAction(variousMapper, ui->actionExplorer, ToggleExplorerDock);
+
+    commandMapper = createMapper(&MainWindow::onClicked);
+    mapButton(commandMapper, ui->toolButtonClearLog, ClearLog);
+    mapButton(commandMapper, ui->checkBoxSaveLog, SaveLog);
+    mapAction(commandMapper, ui->actionLog, ToggleLogDock);
+    mapButton(commandMapper, ui->toolButtonOpenLogDir, OpenLogFolder);
+    mapButton(commandMapper, ui->checkBoxDebug, IncludeDebug);
+    mapAction(commandMapper, ui->actionGlobalSettings, GlobalSettings);
+}
+
+void MainWindow::createLogo()
+{
+    auto *spacer = new QWidget;
+    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    ui->toolBar->addWidget(spacer);
+
+    auto *buttonLogo = new QPushButton;
+    buttonLogo->setObjectName(u"buttonLogo"_s);
+    buttonLogo->setIcon(QIcon(u":/img/logo.png"_s));
+    buttonLogo->setIconSize({102, 30});
+    buttonLogo->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    buttonLogo->setCursor(Qt::PointingHandCursor);
+    buttonLogo->setStyleSheet(u"border:0;background:0;"_s);
+    ui->toolBar->addWidget(buttonLogo);
+    connect(buttonLogo, &QPushButton::clicked, commandMapper, qOverload<>(&QSignalMapper::map));
+    commandMapper->setMapping(buttonLogo, VisitHome);
+    ui->toolBar->setMinimumWidth(ui->toolBar->minimumSizeHint().width() +
+                                 buttonLogo->minimumSizeHint().width() + 64);
+}
+
+void MainWindow::retranslateExplorer()
+{
+    if (dockExplorer) {
+        dockExplorer->setWindowTitle(tr("File Explorer"));
+        ui->actionExplorer->setStatusTip(tr("File Explorer"));
+    }
+    fillRuleComboBox();
+}
+
+void MainWindow::onTimeout()
+{
+    moveLogLinesToTable();
+}
+
+void MainWindow::moveLogLinesToTable()
+{
+    const QStringList lines = AppLog::instance()->pendingLines();
+    if (lines.isEmpty())
+        return;
+    QTableWidget *table = ui->tableWidgetLog;
+    // Lines that newer ones would push out of the table at once need not enter it.
+    QList<QStringList> rows;
+    for (auto line = lines.crbegin(); line != lines.crend() && rows.size() < logRowLimit - 1; ++line) {
+        const QStringList parts = line->split(u'|');
+        if (parts.size() >= 2)
+            rows.append(parts);
+    }
+    for (auto parts = rows.crbegin(); parts != rows.crend(); ++parts) {
+        table->insertRow(0);
+        table->setItem(0, 0, new QTableWidgetItem(parts->at(0)));
+        table->setItem(0, 1, new QTableWidgetItem(parts->at(1)));
+        if (table->rowCount() >= logRowLimit)
+            table->removeRow(table->rowCount() - 1);
+    }
+    AppLog::instance()->clearPending();
+}
+
+void MainWindow::onClicked(int id)
+{
+    switch (id) {
+    case ClearLog:
+        for (int row = ui->tableWidgetLog->rowCount() - 1; row >= 0; --row)
+            ui->tableWidgetLog->removeRow(row);
+        break;
+    case SaveLog:
+        // The setting itself is written at close.
+        AppLog::instance()->setSaveToFile(ui->checkBoxSaveLog->isChecked());
+        break;
+    case ToggleLogDock:
+        ui->dockWidgetLog->setVisible(!ui->dockWidgetLog->isVisibleTo(this));
+        break;
+    case OpenLogFolder:
+        openLogFolder();
+        break;
+    case IncludeDebug:
+        // Deliberate: written at once, unlike the check box beside it.
+        SettingsStore::instance()->setValue(SettingKey::LogIncludeDebugInfo, ui->checkBoxDebug->isChecked());
+        break;
+    case VisitHome:
+        QDesktopServices::openUrl(QUrl(Maker::homeUrl()));
+        break;
+    default:
+        break;
+    }
+}
+
+void MainWindow::openLogFolder()
+{
+    const QString path = QDir::current().path() + "/logs/"_L1;
+    QDir().mkdir(path);
+    openWithShell(QDir(path).canonicalPath());
+}
+
+void MainWindow::onClickedVarious(int id)
+{
+    if (id == ShowFullPath)
+        on_buttonPreview_clicked();
+    else if (id == ToggleExplorerDock && dockExplorer)
+        dockExplorer->setVisible(!dockExplorer->isVisibleTo(this));
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Delete && ui->listWidgetFiles->hasFocus()) {
+        onClickedFileList(removeFilesId);
+        event->accept();
+    } else if (event->key() == Qt::Key_Delete && ui->treeWidgetRules->hasFocus()) {
+        onClickedRuleList(removeRuleId);
+        event->accept();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateExplorer();
+        ui->retranslateUi(this);
+        event->accept();
+        return;
+    }
+    if (event->type() == QEvent::WindowStateChange && event->spontaneous() && isMinimized()) {
+        minimizeWindow();
+        event->accept();
+        return;
+    }
+    QMainWindow::changeEvent(event);
+}

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMainWindow>
+#include <QMap>
+#include <QMimeData>
+#include <QSystemTrayIcon>
+
+#include <memory>
+
+class ProgressDialog;
+class QSignalMapper;
+class QTreeView;
+class Rule;
+class TaskbarList;
+struct RuleData;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The program's only main window. Its code lies in one file per concern: the window itself, the rule list,
+/// the file list, the rename run, and the window's state.
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(Qt::WindowFlags flags);
+    ~MainWindow() override;
+    Q_DISABLE_COPY_MOVE(MainWindow)
+
+    /// Builds what the form does not hold and connects everything. To be called once, before the first show.
+    void initialize();
+
+    /// Adds one file, or every matching file below a folder; a path that is listed already is skipped. Events
+    /// are processed after each file.
+    void addPath(const QString &path);
+    /// Sets a row's text from its path: the name on disk, or with Preview on the name that the rules make of
+    /// it.
+    void updateFileItem(int row);
+
+public slots:
+    void onTimeout();
+    void onTrayIconActivated(QSystemTrayIcon::ActivationReason reason);
+    void onRestoreWindow();
+    void onFileListAdded(const QMimeData *mimeData);
+    void onClicked(int id);
+    void onClickedVarious(int id);
+    void onClickedFileList(int id);
+    void onClickedRuleList(int id);
+    void on_buttonPreview_clicked();
+    void on_buttonRename_clicked();
+    void on_buttonAddRule_clicked();
+    void on_comboBoxRules_currentIndexChanged(int index);
+
+public:
+    void minimizeWindow();
+    void restoreWindowSettings();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct RunResult
+    {
+        int last = 0; ///< the loop's index at the end
+        int failed = 0;
+    };
+
+    void createExplorer();
+    void createRules();
+    void createMappers();
+    void createLogo();
+    void createTrayIcon();
+    void retranslateExplorer();
+    void openLogFolder();
+    void moveLogLinesToTable();
+    void saveWindowSettings();
+
+    void fillRuleComboBox();
+    void refreshRuleTree();
+
+    [[nodiscard]] QStringList collectFiles(const QString &folder, std::unique_ptr<ProgressDialog> &dialog);
+    void addRow(const QString &path);
+    void moveFile(int from, int to);
+
+    [[nodiscard]] QString newName(const QString &name, int row) const;
+    [[nodiscard]] RunResult renameAll(ProgressDialog &dialog);
+    [[nodiscard]] bool renameRow(int row);
+    void showReport(const RunResult &result);
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    std::unique_ptr<TaskbarList> taskbarList;
+    QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
+    QList<RuleData *> ruleList;  ///< in the order of application; owned
+    QTimer *logTimer = nullptr;
+    QSystemTrayIcon *trayIcon = nullptr;
+    QDockWidget *dockExplorer = nullptr;
+    QTreeView *treeExplorer = nullptr;
+    QSignalMapper *commandMapper = nullptr; ///< to onClicked()
+};

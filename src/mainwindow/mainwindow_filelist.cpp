@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/mainwindow.h"
+
+#include "mainwindow/progressdialog.h"
+#include "ui_mainwindow.h"
+
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QLabel>
+#include <QProgressBar>
+#include <QStackedWidget>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Ids of the signal mapper; fixed.
+enum FileListCommand { MoveFileUp = 2, MoveFileDown = 3, RemoveFiles = 4 };
+
+constexpr qint64 countInterval = 40; // milliseconds
+
+std::unique_ptr<ProgressDialog> createWaitDialog(QWidget *parent, ProgressDialog::Page page)
+{
+    auto dialog = std::make_unique<ProgressDialog>(parent);
+    dialog->setWindowTitle(MainWindow::tr("Please wait"));
+    dialog->stackedWidget->setCurrentIndex(page);
+    return dialog;
+}
+
+} // namespace
+
+void MainWindow::onFileListAdded(const QMimeData *mimeData)
+{
+    // Taken before any event is processed: the data belongs to the drag.
+    const QList<QUrl> urls = mimeData->urls();
+    for (const QUrl &url : urls)
+        addPath(url.toLocalFile());
+    ui->listWidgetFiles->showAddedRows();
+}
+
+void MainWindow::addPath(const QString &path)
+{
+    // Built when it is first shown: dropping a thousand single files shows none.
+    std::unique_ptr<ProgressDialog> dialog;
+    const QStringList paths = QFileInfo(path).isDir() ? collectFiles(path, dialog) : QStringList(path);
+    const qsizetype total = paths.size();
+    if (total > 1) {
+        dialog->stackedWidget->setCurrentIndex(ProgressDialog::ProgressPage);
+        dialog->progressBar->setValue(0);
+        // Also after a cancelled scan: what was found so far is still added.
+        dialog->show();
+    }
+    for (qsizetype i = 0; i < total; ++i) {
+        if (ui->listWidgetFiles->containsPath(paths.at(i)))
+            continue;
+        addRow(paths.at(i));
+        // Deliberate: the bar stays below 100 after the last file.
+        if (total > 1)
+            dialog->progressBar->setValue(static_cast<int>(std::min<qsizetype>(100, i * 100 / total)));
+        QCoreApplication::processEvents();
+        if (dialog && dialog->isHidden())
+            break;
+    }
+    if (total > 1)
+        ui->listWidgetFiles->showAddedRows();
+}
+
+QStringList MainWindow::collectFiles(const QString &folder, std::unique_ptr<ProgressDialog> &dialog)
+{
+    QStringList nameFilters = ui->lineEditFileFilter->text().split(u';', Qt::SkipEmptyParts);
+    if (nameFilters.isEmpty())
+        nameFilters.append(u"*.*"_s);
+    dialog = createWaitDialog(this, ProgressDialog::TextPage);
+    dialog->show();
+
+    // Deliberate: without QDir::Hidden and QDir::System.
+    QDir directory(folder + QDir::separator());
+    directory.setFilter(QDir::Files | QDir::NoSymLinks | QDir::NoDot | QDir::NoDotDot);
+    directory.setNameFilters(nameFilters);
+    QDirIterator files(directory, QDirIterator::Subdirectories);
+    QStringList paths;
+    const auto showCount = [&] {
+        dialog->labelText->setText(tr("Acquire files") + " : "_L1 + QString::number(paths.size()));
+    };
+    QElapsedTimer sinceShown;
+    while (files.hasNext() && !dialog->isHidden()) {
+        paths.append(files.next());
+        // Every new text lays the dialog out again, which takes longer than finding a file.
+        if (!sinceShown.isValid() || sinceShown.hasExpired(countInterval)) {
+            showCount();
+            sinceShown.start();
+        }
+        QCoreApplication::processEvents();
+    }
+    if (!paths.isEmpty())
+        showCount();
+    return paths;
+}
+
+void MainWindow::addRow(const QString &path)
+{
+    auto *item = new QListWidgetItem;
+    item->setData(Qt::UserRole, path);
+    ui->listWidgetFiles->addItem(item);
+    updateFileItem(ui->listWidgetFiles->count() - 1);
+}
+
+void MainWindow::moveFile(int from, int to)
+{
+    ListWidgetFiles *list = ui->listWidgetFiles;
+    list->insertItem(to, list->takeItem(from));
+    list->setCurrentRow(to);
+}
+
+void MainWindow::onClickedFileList(int id)
+{
+    ListWidgetFiles *list = ui->listWidgetFiles;
+    const int row = list->currentRow();
+    switch (id) {
+    case MoveFileUp:
+        if (row < 1)
+            return;
+        moveFile(row, row - 1);
+        break;
+    case MoveFileDown:
+        if (row < 0 || row >= list->count() - 1)
+            return;
+        moveFile(row, row + 1);
+        break;
+    case RemoveFiles:
+        if (row < 0)
+            return;
+        list->removeSelected();
+        list->setCurrentRow(std::max(0, std::min(row, list->count() - 1)));
+        break;
+    default:
+        return;
+    }
+    list->scrollTo(list->currentIndex(), QAbstractItemView::EnsureVisible);
+    if (ui->buttonPreview->isChecked())
+        on_buttonPreview_clicked();
+}

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+
+/// The modal wait dialog. Cancelling merely hides it; who shows it polls for that.
+class ProgressDialog final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    enum Page { ProgressPage, TextPage };
+    static constexpr int progressMode = 1; ///< any other mode is text mode
+
+    /// Shows the progress page; mode and total are the user's to set.
+    explicit ProgressDialog(QWidget *parent);
+
+    /// In progress mode the bar shows current x 100 / total, 100 at most, and 0 while total is 0. In text
+    /// mode the item is only remembered.
+    void setProgress(int current);
+
+    int mode = 0;
+    int current = 0; ///< the item last reported
+    int total = 0;
+    QPushButton *buttonCancel;
+    QLabel *labelText;
+    QProgressBar *progressBar;
+    QStackedWidget *stackedWidget;
+};
