@@ -416,6 +416,7 @@ void TestSettingsFile::withoutAPathNothingIsSaved()
     store.load();
     store.save();
     QCOMPARE(catcher.messages(), QStringList(u"could not save: \"\""_s));
+    QCOMPARE(entriesOf(folder->path()), QStringList(u"config"_s));
     QVERIFY(entriesOf(folder->path(u"config"_s)).isEmpty());
 }
 
