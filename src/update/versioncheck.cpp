@@ -23,8 +23,9 @@ namespace {
 
 const auto dateFormat = u"dd.MM.yyyy"_s;
 const auto boxName = u"version_check"_s;
-// The service chooses part of the error text.
-constexpr qsizetype maxReasonLength = 500;
+// The service chooses these texts: a long one would push the buttons off the screen.
+constexpr qsizetype maxReasonLength = 200;
+constexpr qsizetype maxVersionLength = 100;
 
 QByteArray requestBody()
 {
@@ -54,7 +55,7 @@ void openWebAddress(const QString &text)
 
 VersionCheck::Service &VersionCheck::service()
 {
-    static Service theService{QUrl(Maker::updateUrl()), std::chrono::minutes(2)};
+    static Service theService{QUrl(Maker::updateUrl()), std::chrono::minutes(10)};
     return theService;
 }
 
@@ -94,13 +95,7 @@ void VersionCheck::watch(QNetworkReply *reply)
         if (reply->bytesAvailable() > maxReplySize)
             cutOff(reply);
     });
-    auto *timer = new QTimer(reply);
-    timer->setSingleShot(true);
-    connect(timer, &QTimer::timeout, this, [this, reply] { cutOff(reply); });
-    connect(reply, &QNetworkReply::metaDataChanged, timer, [timer] {
-        if (!timer->isActive())
-            timer->start(service().replyTime);
-    });
+    QTimer::singleShot(service().replyTime, reply, [this, reply] { cutOff(reply); });
 }
 
 void VersionCheck::cutOff(QNetworkReply *reply)
@@ -198,7 +193,7 @@ void VersionCheck::showNewVersion(const Answer &answer)
     box->setText(
         "<span style='font:bold 9pt'>"_L1 + tr("There is a new version available!") +
         "<br/><span style='color:#448'>"_L1 +
-        u"%1 (%2)"_s.arg(QCoreApplication::applicationName().toHtmlEscaped(), latest.toHtmlEscaped()) +
+        u"%1 (%2)"_s.arg(QCoreApplication::applicationName().toHtmlEscaped(), latest.left(maxVersionLength).toHtmlEscaped()) +
         "</span></span>"_L1);
     box->setInformativeText("<span style='font:bold 9pt;color:#444'>"_L1 +
                             tr("Would you like to download it now?") + "</span>"_L1);

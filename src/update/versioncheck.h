@@ -16,11 +16,11 @@ class QWidget;
 
 /// Asks the update service once whether there is a newer version, tells the user, and deletes itself.
 ///
-/// The service is not trusted. A reply of more than maxReplySize bytes, or one that has begun and does not
-/// end within Service::replyTime, is cut off and counts as a transmission failure; how long the service takes
-/// to begin is not limited. Lines of more than maxLineLength bytes are ignored. Bytes that are not UTF-8
-/// become replacement characters, markup is shown as text, redirects are not followed, and addresses that are
-/// not http or https are not opened.
+/// The service is not trusted. A reply of more than maxReplySize bytes, or one that has not ended
+/// Service::replyTime after the request (its headers may be what never ends), is cut off and counts as a
+/// transmission failure. Lines of more than maxLineLength bytes are ignored. Bytes that are not UTF-8 become
+/// replacement characters, markup is shown as text, redirects are not followed, and addresses that are not
+/// http or https are not opened.
 class VersionCheck final : public QObject
 {
     Q_OBJECT
@@ -32,7 +32,7 @@ public:
     struct Service
     {
         QUrl address;                        ///< scheme, host and port; the path is always "/"
-        std::chrono::milliseconds replyTime; ///< from the reply's header to its end
+        std::chrono::milliseconds replyTime; ///< long: a slow service is no broken one
     };
     /// The service that checks made from now on ask.
     static Service &service();
