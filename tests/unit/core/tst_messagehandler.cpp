@@ -245,7 +245,7 @@ void TestMessageHandler::stampsFollowTheTimeFormatOfTheSystem_data()
     QTest::addColumn<bool>("twelveHours");
 
     QTest::newRow("United States") << u"en_US.UTF-8"_s << true;
-    QTest::newRow("Australia, small letters") << u"en_AU.UTF-8"_s << true;
+    QTest::newRow("Korea, the marker comes first") << u"ko_KR.UTF-8"_s << true;
     QTest::newRow("Germany") << u"de_DE.UTF-8"_s << false;
     QTest::newRow("United Kingdom") << u"en_GB.UTF-8"_s << false;
     QTest::newRow("none") << u"C"_s << false;
