@@ -26,6 +26,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QUrl>
@@ -70,6 +71,13 @@ public:
                                               Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint))
     {
         window->initialize();
+    }
+
+    /// Leaves log lines pending until onTimeout() is called: they are drained at no other moment then.
+    void stopLogTimer() const
+    {
+        for (QTimer *timer : window->findChildren<QTimer *>(Qt::FindDirectChildrenOnly))
+            timer->stop();
     }
 
     MainWindow *operator->() const { return window.get(); }

@@ -63,6 +63,7 @@ private slots:
     {
         settings = std::make_unique<TestSettings>();
         window = std::make_unique<DrivenWindow>();
+        window->stopLogTimer();
         AppLog::instance()->clearPending();
         opened.clear();
         QDesktopServices::setUrlHandler(u"file"_s, this, "open");

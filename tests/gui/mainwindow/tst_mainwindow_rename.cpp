@@ -56,6 +56,7 @@ private slots:
         settings = std::make_unique<TestSettings>();
         tree = &settings->tree;
         window = std::make_unique<DrivenWindow>();
+        window->stopLogTimer();
         window->get()->show();
         boxes = std::make_unique<BoxAnswerer>();
     }
