@@ -13,8 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A layout that took t is followed by none for this many times t.
+// A layout that took t is followed by none for this many times t, and never by one within the shortest pause:
+// after each the rows are painted, too.
 constexpr int layoutPause = 20;
+constexpr qint64 shortestPause = 40'000'000; // nanoseconds
 
 } // namespace
 
@@ -132,7 +134,9 @@ void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex 
             countPath(paths.at(row));
         }
     }
-    QListWidget::dataChanged(topLeft, bottomRight, roles);
+    // A new path alone changes nothing that is shown.
+    if (roles != QList<int>{Qt::UserRole})
+        QListWidget::dataChanged(topLeft, bottomRight, roles);
 }
 
 void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int last)
@@ -152,7 +156,7 @@ void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int las
     if (firstAddedRow < 0)
         firstAddedRow = first;
     lastAddedRow = last;
-    const qint64 pause = layoutPause * layoutCost;
+    const qint64 pause = std::max(shortestPause, layoutPause * layoutCost);
     if (!sinceLayout.isValid() || sinceLayout.nsecsElapsed() >= pause)
         showAddedRows();
     else if (!layoutTimer.isActive())
