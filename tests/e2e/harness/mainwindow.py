@@ -88,9 +88,9 @@ class MainWindow:
         """Below the row "parent", whose text begins at "margin": the position and margin of a row."""
         cells = self.explorer.children
         columns = 0
-        while cells[columns].role == "column header":
+        while columns < len(cells) and cells[columns].role == "column header":
             columns += 1
-        rows = cells[columns::columns]
+        rows = cells[columns::columns] if columns else []
         for position in range(parent + 1, len(rows)):
             x = rows[position].extents.x
             if x <= margin:
