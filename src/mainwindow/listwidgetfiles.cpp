@@ -3,6 +3,8 @@
 
 #include "mainwindow/listwidgetfiles.h"
 
+#include "mainwindow/fileitemdelegate.h"
+
 #include <QDragEnterEvent>
 #include <QMimeData>
 
@@ -22,7 +24,10 @@ constexpr qint64 shortestPause = 40'000'000; // nanoseconds
 
 ListWidgetFiles::ListWidgetFiles(QWidget *parent)
     : QListWidget(parent)
+    , delegate(new FileItemDelegate(this))
 {
+    setItemDelegate(delegate);
+    setUniformItemSizes(true);
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(true);
@@ -49,7 +54,7 @@ QString ListWidgetFiles::path(int row) const
 
 void ListWidgetFiles::removeSelected()
 {
-    const QModelIndexList selected = selectionModel()->selectedRows();
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
     if (selected.isEmpty())
         return;
     QList<bool> doomed(count(), false);
@@ -82,8 +87,22 @@ void ListWidgetFiles::showAddedRows()
     QListWidget::rowsInserted({}, first, lastAddedRow);
 }
 
+void ListWidgetFiles::layoutLater()
+{
+    delegate->forgetWidths();
+    layoutRequested = true;
+    scheduleDelayedItemsLayout();
+}
+
+void ListWidgetFiles::setRowText(int row, const QString &text)
+{
+    delegate->includeWidth(text);
+    item(row)->setText(text);
+}
+
 void ListWidgetFiles::doItemsLayout()
 {
+    layoutRequested = false;
     sinceLayout.start();
     QListWidget::doItemsLayout();
     layoutCost = sinceLayout.nsecsElapsed();
@@ -94,6 +113,7 @@ void ListWidgetFiles::reset()
 {
     firstAddedRow = -1;
     layoutTimer.stop();
+    delegate->forgetWidths();
     QListWidget::reset();
     mirrorAllRows();
 }
@@ -134,8 +154,10 @@ void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex 
             countPath(paths.at(row));
         }
     }
-    // A new path alone changes nothing that is shown.
-    if (roles != QList<int>{Qt::UserRole})
+    // The base class asks for a layout and paints the row. A path alone changes nothing that is shown, and
+    // rows that wait for a layout get one anyway.
+    const bool waiting = layoutRequested || (firstAddedRow >= 0 && topLeft.row() >= firstAddedRow);
+    if (!waiting && roles != QList<int>{Qt::UserRole})
         QListWidget::dataChanged(topLeft, bottomRight, roles);
 }
 

@@ -27,7 +27,6 @@ QString MainWindow::newName(const QString &name, int row) const
 
 void MainWindow::updateFileItem(int row)
 {
-    QListWidgetItem *item = ui->listWidgetFiles->item(row);
     const QFileInfo file(ui->listWidgetFiles->path(row));
     QString text = file.fileName();
     if (ui->buttonPreview->isChecked())
@@ -37,12 +36,12 @@ void MainWindow::updateFileItem(int row)
         const QString folder = file.absolutePath().replace("//"_L1, "/"_L1);
         text = QDir::toNativeSeparators(folder + QDir::separator() + text);
     }
-    item->setText(text);
+    ui->listWidgetFiles->setRowText(row, text);
 }
 
 void MainWindow::on_buttonPreview_clicked()
 {
-    ui->listWidgetFiles->scheduleDelayedItemsLayout();
+    ui->listWidgetFiles->layoutLater();
     for (int row = 0; row < ui->listWidgetFiles->count(); ++row)
         updateFileItem(row);
 }
