@@ -1,0 +1,65 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+"""The base class of the end-to-end tests."""
+
+import os
+import pathlib
+import re
+import shutil
+import tempfile
+import unittest
+
+from .desktop import Desktop
+from .mainwindow import MainWindow
+from .program import SETTLED, Program
+
+
+class Case(unittest.TestCase):
+    """Gives each test a desktop, a home and a scratch folder, and a screenshot of its last moment."""
+
+    maxDiff = None
+    window_manager = True
+    tray = False
+
+    def setUp(self):
+        self.desktop = Desktop(self.window_manager, self.tray)
+        self.addCleanup(self.desktop.stop)
+        self.addCleanup(self.screenshot, "end")
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-"))
+        self.addCleanup(shutil.rmtree, self.folder)
+        self.home = self.folder / "home"
+        self.home.mkdir()
+
+    def screenshot(self, moment):
+        folder = pathlib.Path(os.environ["ORVANTO_E2E_SCREENSHOTS"])
+        name = re.sub(r"^.*?(test_[^.]*)\.[^.]*\.", r"\1.", self.id())
+        self.desktop.screenshot(folder / f"{name}.{moment}.png")
+
+    def make_files(self, names, folder=None):
+        """Creates files whose content is their name, and returns their folder."""
+        folder = folder or self.folder / "files"
+        for name in names:
+            file = folder / name
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(name, encoding="utf-8")
+        return folder
+
+    def content_by_name(self, folder):
+        """What lies below a folder: each file's content by its path."""
+        return {str(file.relative_to(folder)): file.read_text(encoding="utf-8")
+                for file in folder.rglob("*") if file.is_file()}
+
+    def start(self, **settings):
+        """Starts the program with settled settings; keywords are written with __ in place of the dot."""
+        values = dict(SETTLED)
+        values.update((name.replace("__", "."), value) for name, value in settings.items())
+        self.program = Program(self.desktop, self.home, settings=values).start()
+        return MainWindow(self.program)
+
+    def close(self, program=None):
+        """Closes the main window by the window manager; the program must end well and silently."""
+        program = program or self.program
+        program.close()
+        self.assertEqual(program.wait(), 0)
+        self.assertEqual(program.stderr, "")
+        self.assertEqual(program.stdout, "")
