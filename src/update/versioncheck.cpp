@@ -190,11 +190,11 @@ void VersionCheck::showNewVersion(const Answer &answer)
 {
     const QString latest = answer.value(u"latest"_s).toString();
     QMessageBox *box = createBox();
-    box->setText(
-        "<span style='font:bold 9pt'>"_L1 + tr("There is a new version available!") +
-        "<br/><span style='color:#448'>"_L1 +
-        u"%1 (%2)"_s.arg(QCoreApplication::applicationName().toHtmlEscaped(), latest.left(maxVersionLength).toHtmlEscaped()) +
-        "</span></span>"_L1);
+    box->setText("<span style='font:bold 9pt'>"_L1 + tr("There is a new version available!") +
+                 "<br/><span style='color:#448'>"_L1 +
+                 u"%1 (%2)"_s.arg(QCoreApplication::applicationName().toHtmlEscaped(),
+                                  latest.left(maxVersionLength).toHtmlEscaped()) +
+                 "</span></span>"_L1);
     box->setInformativeText("<span style='font:bold 9pt;color:#444'>"_L1 +
                             tr("Would you like to download it now?") + "</span>"_L1);
     box->setDefaultButton(addMessageButton(box, QMessageBox::Yes, tr("Download"), u":/img/submit.png"_s));

@@ -61,14 +61,16 @@ void TestFaderWidget::isHiddenBeforeItStarts()
 {
     QWidget page;
     page.resize(120, 80);
-    auto *fader = new FaderWidget(&page);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    const QPointer<FaderWidget> fader = new FaderWidget(&page);
     QCOMPARE(fader->size(), QSize(120, 80));
     QCOMPARE(fader->pos(), QPoint(0, 0));
     QVERIFY(fader->testAttribute(Qt::WA_DeleteOnClose));
     QCOMPARE(fader->metaObject()->className(), "FaderWidget");
     QCOMPARE(fader->property("fadeDuration"), QVariant(200));
-    page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QCoreApplication::processEvents();
+    QVERIFY(fader);
     QVERIFY(!fader->isVisible());
 }
 
