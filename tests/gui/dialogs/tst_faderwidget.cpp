@@ -182,7 +182,7 @@ void TestFaderWidget::secondFadeReplacesTheFirst()
     pages.show();
     QVERIFY(QTest::qWaitForWindowExposed(&pages));
     pages.setCurrentIndex(1);
-    const QPointer<FaderWidget> first = current;
+    const QPointer<FaderWidget> first(current.data());
     QVERIFY(first);
     QCOMPARE(first->parentWidget(), pages.widget(1));
     QCOMPARE(first->size(), pages.size()); // the page has its size although it was never shown before
@@ -204,7 +204,7 @@ void TestFaderWidget::noPageNoFade()
     FaderWidget::fadeIn(current, nullptr);
     QVERIFY(!current);
     FaderWidget::fadeIn(current, &page);
-    const QPointer<FaderWidget> first = current;
+    const QPointer<FaderWidget> first(current.data());
     FaderWidget::fadeIn(current, nullptr);
     QVERIFY(first->isHidden());
     QTRY_VERIFY(!current);
