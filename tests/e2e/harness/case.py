@@ -14,6 +14,10 @@ from .mainwindow import MainWindow
 from .program import SETTLED, Program
 
 
+# Few folders lie above it and beside it: the explorer has little to read and little that changes meanwhile.
+QUIET_PLACE = pathlib.Path("/var/tmp")
+
+
 class Case(unittest.TestCase):
     """Gives each test a desktop, a home and a scratch folder, and a screenshot of its last moment."""
 
@@ -25,10 +29,15 @@ class Case(unittest.TestCase):
         self.desktop = Desktop(self.window_manager, self.tray)
         self.addCleanup(self.desktop.stop)
         self.addCleanup(self.screenshot, "end")
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-"))
-        self.addCleanup(shutil.rmtree, self.folder)
+        self.folder = self.make_folder(QUIET_PLACE)
         self.home = self.folder / "home"
         self.home.mkdir()
+
+    def make_folder(self, place=None):
+        """A temporary folder that is removed after the test."""
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-", dir=place))
+        self.addCleanup(shutil.rmtree, folder)
+        return folder
 
     def screenshot(self, moment):
         folder = pathlib.Path(os.environ["ORVANTO_E2E_SCREENSHOTS"])
