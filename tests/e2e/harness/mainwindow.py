@@ -29,6 +29,12 @@ class MainWindow:
         self.files = self.files_panel.one("list")
         self.rules = self.rules_panel.one("tree")
 
+    def activate(self):
+        """Has the window manager bring the window to the front."""
+        number = until(lambda: self.program.x_window("Orvanto"), "the main window")
+        self.program.desktop.run("wmctrl", "-i", "-a", number)
+        until(lambda: self.frame.has("active"), "the main window to be active")
+
     # --- file list
 
     def file_texts(self):
