@@ -10,12 +10,15 @@
 #include "core/localizer.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
+#include "dialogs/dialogstart.h"
 #include "mainwindow/mainwindow.h"
 #include "platform/osversion.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QIcon>
+#include <QLocale>
+#include <QScreen>
 #include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
@@ -77,6 +80,9 @@ void Application::init()
     addLibraryPath(applicationDirPath() + "/plugins"_L1);
     applyLook();
     createMainWindow();
+    welcome();
+    mainWindow->initialize();
+    mainWindow->restoreWindowSettings();
     presentMainWindow();
     initialized = true;
 }
@@ -109,8 +115,17 @@ void Application::createMainWindow()
         flags |= Qt::WindowStaysOnTopHint;
     mainWindow = new MainWindow(flags);
     mainWindow->setWindowTitle(applicationName());
-    mainWindow->initialize();
-    mainWindow->restoreWindowSettings();
+}
+
+void Application::welcome()
+{
+    SettingsStore *settings = SettingsStore::instance();
+    if (!settings->value(SettingKey::MiscIsFirstStart, true).toBool())
+        return;
+    settings->setValue(SettingKey::MiscLanguage, QLocale::system().name());
+    if (screens().size() == 1)
+        mainWindow->move(primaryScreen()->geometry().center() - mainWindow->rect().center());
+    DialogStart(mainWindow, Qt::CustomizeWindowHint | Qt::WindowStaysOnTopHint).exec();
 }
 
 void Application::presentMainWindow()

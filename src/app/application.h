@@ -25,6 +25,7 @@ private:
     void setValidationPatterns();
     void logStart() const;
     void createMainWindow();
+    void welcome();
     void presentMainWindow();
 
     MainWindow *mainWindow = nullptr;

@@ -58,24 +58,27 @@ void ListWidgetFiles::removeSelected()
     if (selected.isEmpty())
         return;
     QList<bool> doomed(count(), false);
-    int firstDoomed = count();
-    for (const QModelIndex &index : selected) {
+    for (const QModelIndex &index : selected)
         doomed[index.row()] = true;
-        firstDoomed = std::min(firstDoomed, index.row());
+    QList<std::pair<QString, QString>> kept;
+    for (int row = 0; row < count(); ++row) {
+        if (!doomed.at(row))
+            kept.append({paths.at(row), item(row)->text()});
     }
-    // Taking rows out of the middle one by one would move all rows behind them each time, and so would the
-    // list's search for each of those rows later on. Rows are only taken from the end and put back there.
-    selectionModel()->clear();
-    QList<QListWidgetItem *> kept;
-    for (int row = count() - 1; row >= firstDoomed; --row) {
-        QListWidgetItem *item = takeItem(row);
-        if (doomed.at(row))
-            delete item;
-        else
-            kept.append(item);
-    }
-    std::for_each(kept.crbegin(), kept.crend(), [this](QListWidgetItem *item) { addItem(item); });
+    // Each row taken out of the middle would move all rows behind it, and the base class would search for
+    // each of those again when it is changed next.
+    clear();
+    for (const auto &[path, text] : std::as_const(kept))
+        appendRow(path, text);
     showAddedRows();
+}
+
+void ListWidgetFiles::appendRow(const QString &path, const QString &text)
+{
+    delegate->includeWidth(text);
+    auto *item = new QListWidgetItem(text);
+    item->setData(Qt::UserRole, path);
+    addItem(item);
 }
 
 void ListWidgetFiles::showAddedRows()

@@ -26,6 +26,7 @@ public:
     /// The Qt::UserRole data of a row, 0 to count() - 1.
     [[nodiscard]] QString path(int row) const;
 
+    void appendRow(const QString &path, const QString &text = {});
     /// Deletes every selected row, at constant cost for each row of the list.
     void removeSelected();
     /// Lets rows that were added since the last layout show at once.

@@ -6,12 +6,15 @@
 #include "core/applog.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
+#include "dialogs/dialogsettings.h"
+#include "mainwindow/checkschedule.h"
 #include "platform/shell.h"
 #include "platform/taskbar.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
 #include "ui_mainwindow.h"
+#include "update/versioncheck.h"
 
 #include <QDesktopServices>
 #include <QFileSystemModel>
@@ -185,7 +188,18 @@ void MainWindow::retranslateExplorer()
 
 void MainWindow::onTimeout()
 {
+    static CheckSchedule schedule(logTimerInterval);
     moveLogLinesToTable();
+    if (schedule.isDue())
+        checkForNewVersion();
+}
+
+void MainWindow::checkForNewVersion()
+{
+    if (!SettingsStore::instance()->value(SettingKey::VersionCheckAuto, true).toBool())
+        return;
+    auto *check = new VersionCheck(this); // deletes itself
+    check->check(false);
 }
 
 void MainWindow::moveLogLinesToTable()
@@ -232,12 +246,22 @@ void MainWindow::onClicked(int id)
         // Deliberate: written at once, unlike the check box beside it.
         SettingsStore::instance()->setValue(SettingKey::LogIncludeDebugInfo, ui->checkBoxDebug->isChecked());
         break;
+    case GlobalSettings:
+        editSettings();
+        break;
     case VisitHome:
         QDesktopServices::openUrl(QUrl(Maker::homeUrl()));
         break;
     default:
         break;
     }
+}
+
+void MainWindow::editSettings()
+{
+    DialogSettings dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        dialog.save();
 }
 
 void MainWindow::openLogFolder()
@@ -273,6 +297,7 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslateExplorer();
         ui->retranslateUi(this);
+        retranslateTrayMenu();
         event->accept();
         return;
     }

@@ -57,8 +57,13 @@ public slots:
     void on_comboBoxRules_currentIndexChanged(int index);
 
 public:
+    /// Minimises to the task bar, or into the tray when the settings say so.
     void minimizeWindow();
+    /// To be called after initialize() and before the first show. Leaves the opacity in the settings, in
+    /// range.
     void restoreWindowSettings();
+    /// Closes without the request for support: the system ends the program.
+    void closeQuietly();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -81,7 +86,13 @@ private:
     void retranslateExplorer();
     void openLogFolder();
     void moveLogLinesToTable();
+    void checkForNewVersion();
+    void editSettings();
+
+    void retranslateTrayMenu();
+    void restoreWindowGeometry();
     void saveWindowSettings();
+    void requestSupport();
 
     void fillRuleComboBox();
     void refreshRuleTree();
@@ -100,8 +111,11 @@ private:
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned
     QTimer *logTimer = nullptr;
-    QSystemTrayIcon *trayIcon = nullptr;
+    QSystemTrayIcon *trayIcon = nullptr; ///< null without a system tray
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     QSignalMapper *commandMapper = nullptr; ///< to onClicked()
+    QAction *actionRestore = nullptr;       ///< of the tray's menu
+    QAction *actionQuit = nullptr;          ///< of the tray's menu
+    bool closesQuietly = false;
 };

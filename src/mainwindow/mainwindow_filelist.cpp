@@ -104,9 +104,7 @@ QStringList MainWindow::collectFiles(const QString &folder, std::unique_ptr<Prog
 
 void MainWindow::addRow(const QString &path)
 {
-    auto *item = new QListWidgetItem;
-    item->setData(Qt::UserRole, path);
-    ui->listWidgetFiles->addItem(item);
+    ui->listWidgetFiles->appendRow(path);
     updateFileItem(ui->listWidgetFiles->count() - 1);
 }
 
