@@ -3,10 +3,6 @@
 # SPDX-License-Identifier: MIT
 """A long run is cancelled half way with the mouse."""
 
-import os
-import pathlib
-import shutil
-import tempfile
 import unittest
 
 from harness.case import Case
@@ -21,11 +17,8 @@ SLOW_PATTERN = "[a-z]*[a-z]*[a-z]*#"
 
 class Cancel(Case):
     def make_many_files(self):
-        """On a RAM disk where there is one: the disk is not what is tested."""
-        memory = pathlib.Path("/dev/shm")
-        place = memory if memory.is_dir() and os.access(memory, os.W_OK) else self.folder
-        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-", dir=place))
-        self.addCleanup(shutil.rmtree, folder)
+        folder = self.folder / "files"
+        folder.mkdir()
         for number in range(FILES):
             (folder / f"{LETTERS}{number:05}.txt").write_text(str(number), encoding="ascii")
         return folder
@@ -57,7 +50,7 @@ class Cancel(Case):
         handled = processed + failed + 1
         self.assertGreater(handled, FILES * 3 // 10)
         self.assertLess(handled, FILES)
-        self.assertFalse(wait.has("showing"))
+        self.assertEqual([shown.name for shown in self.program.windows], ["Orvanto"])
 
         names = sorted(path.name for path in folder.iterdir())
         renamed = [name for name in names if name.startswith("new_")]

@@ -10,16 +10,6 @@ from harness.waiting import until, until_equal
 
 
 class FileList(Case):
-    def drag_range(self, window, folder, first, last):
-        """Selects from the first to the last file in the explorer and drags them all onto the list."""
-        item = window.explorer_item(folder / first)
-        window.hands.click(item)
-        until(lambda: item.has("selected"), first)
-        item = window.explorer_item(folder / last)
-        window.hands.click(item, hold="shift")
-        until(lambda: item.has("selected"), last)
-        window.drop_on_files(item)
-
     def press_button(self, window, which):
         window.hands.click(window.file_button(which))
 
@@ -27,7 +17,9 @@ class FileList(Case):
         names = ["a.txt", "b.txt", "c.txt", "d.txt"]
         folder = self.make_files([*names, "e.txt"])
         window = self.start()
-        self.drag_range(window, folder, "a.txt", "d.txt")
+        window.select_in_explorer(folder / "a.txt")
+        window.select_in_explorer(folder / "d.txt", hold="shift")
+        window.add_by_drag(folder / "d.txt")
         window.expect_files(names, "four files dropped at once")
 
         # Files that are listed already are not added again, neither alone nor with their folder.

@@ -17,12 +17,54 @@ REGISTRY = "org.a11y.atspi.Registry"
 STATES = {"active": 1, "checked": 4, "enabled": 8, "expanded": 10, "focused": 12, "pressed": 20,
           "selected": 23, "showing": 25, "visible": 30}
 
+# Their children are rows, of which there may be many.
+VIEWS = ("list", "tree", "table")
+
 Extents = collections.namedtuple("Extents", "x y width height")
 
 
 def _call(bus, name, path, interface, method, arguments=None, answer=None):
     kind = GLib.VariantType(answer) if answer else None
     return bus.call_sync(name, path, interface, method, arguments, kind, 0, int(DEADLINE * 1000), None)
+
+
+def _property(interface, name):
+    arguments = GLib.Variant("(ss)", (PREFIX + interface, name))
+    return "org.freedesktop.DBus.Properties", "Get", arguments, "(v)", lambda widget, value: value
+
+
+QUESTIONS = {
+    "name": _property("Accessible", "Name"),
+    "role": (PREFIX + "Accessible", "GetRoleName", None, "(s)", lambda widget, value: value),
+    "states": (PREFIX + "Accessible", "GetState", None, "(au)", lambda widget, value: value[0] | value[1] << 32),
+    "extents": (PREFIX + "Component", "GetExtents", GLib.Variant("(u)", (0,)), "((iiii))",
+                lambda widget, value: Extents(*value)),
+    "children": (PREFIX + "Accessible", "GetChildren", None, "(a(so))",
+                 lambda widget, value: [widget.beside(*found) for found in value]),
+}
+
+
+def ask(widgets, *questions):
+    """Asks all widgets at once, which takes little longer than asking one: for each a tuple of answers."""
+    answers = [[None] * len(questions) for _ in widgets]
+    state = {"open": len(widgets) * len(questions), "fault": None}
+
+    def store(bus, result, place):
+        row, column, read = place
+        state["open"] -= 1
+        try:
+            answers[row][column] = read(widgets[row], bus.call_finish(result)[0])
+        except GLib.Error as error:
+            state["fault"] = error
+
+    for row, widget in enumerate(widgets):
+        for column, question in enumerate(questions):
+            widget.send(*QUESTIONS[question][:4], store, (row, column, QUESTIONS[question][4]))
+    while state["open"]:
+        GLib.MainContext.default().iteration(True)
+    if state["fault"]:
+        raise state["fault"]
+    return [tuple(answer) for answer in answers]
 
 
 class Accessible:
@@ -51,39 +93,49 @@ class Accessible:
         return _call(self._bus, self._name, self._path, "org.freedesktop.DBus.Properties", "Get", arguments,
                      "(v)")[0]
 
+    def beside(self, name, path):
+        """The object at another place on the same bus."""
+        return Accessible(self._bus, name, path)
+
+    def send(self, interface, method, arguments, answer, done, data):
+        """Calls a method without waiting; done(bus, result, data) runs when the answer is there."""
+        self._bus.call(self._name, self._path, interface, method, arguments, GLib.VariantType(answer), 0,
+                       int(DEADLINE * 1000), None, done, data)
+
     @property
     def name(self):
-        return self.get("Accessible", "Name")
+        return ask([self], "name")[0][0]
 
     @property
     def role(self):
-        return self.call("Accessible", "GetRoleName", None, "(s)")[0]
+        return ask([self], "role")[0][0]
 
     @property
     def extents(self):
         """Position and size on the screen."""
-        return Extents(*self.call("Component", "GetExtents", GLib.Variant("(u)", (0,)), "((iiii))")[0])
+        return ask([self], "extents")[0][0]
 
     def has(self, state):
-        low, high = self.call("Accessible", "GetState", None, "(au)")[0]
-        return bool((low | high << 32) >> STATES[state] & 1)
+        return bool(ask([self], "states")[0][0] >> STATES[state] & 1)
 
     @property
     def count(self):
         return self.get("Accessible", "ChildCount")
 
     def child(self, index):
-        name, path = self.call("Accessible", "GetChildAtIndex", GLib.Variant("(i)", (index,)), "((so))")[0]
-        return Accessible(self._bus, name, path)
+        return self.beside(*self.call("Accessible", "GetChildAtIndex", GLib.Variant("(i)", (index,)), "((so))")[0])
 
     @property
     def children(self):
-        found = self.call("Accessible", "GetChildren", None, "(a(so))")[0]
-        return [Accessible(self._bus, name, path) for name, path in found]
+        return ask([self], "children")[0][0]
 
     @property
     def parent(self):
-        return Accessible(self._bus, *self.get("Accessible", "Parent"))
+        return self.beside(*self.get("Accessible", "Parent"))
+
+    def names(self, role=None):
+        """The names of all children, or of those with a role."""
+        return [name for name, kind in ask(self.children, "name", "role") if role in (None, kind)]
 
     @property
     def text(self):
@@ -94,21 +146,20 @@ class Accessible:
     def value(self):
         return self.get("Value", "CurrentValue")
 
-    def all(self, role=None, name=None, showing=True):
-        """Every object below this one that matches, from top to bottom, then from left to right."""
-        found = []
-        self._collect(role, name, showing, found)
-        return sorted(found, key=lambda widget: (widget.extents.y, widget.extents.x))
-
-    def _collect(self, role, name, showing, found):
-        if self.role in ("list", "tree", "table"):
-            return
-        for child in self.children:
-            if showing and not child.has("showing"):
-                continue
-            if role in (None, child.role) and name in (None, child.name):
-                found.append(child)
-            child._collect(role, name, showing, found)
+    def all(self, role=None, name=None):
+        """Every visible object below this one that matches, from top to bottom, then from left to right."""
+        found, level = [], [self]
+        while level:
+            below = [child for (children,) in ask(level, "children") for child in children]
+            level = []
+            for child, (kind, text, states, extents) in zip(below, ask(below, "role", "name", "states", "extents")):
+                if not states >> STATES["showing"] & 1:
+                    continue
+                if role in (None, kind) and name in (None, text):
+                    found.append((extents.y, extents.x, len(found), child))
+                if kind not in VIEWS:
+                    level.append(child)
+        return [entry[-1] for entry in sorted(found)]
 
     def one(self, role=None, name=None):
         """The only visible object below this one that matches."""
@@ -119,7 +170,7 @@ class Accessible:
 
     def dump(self, depth=0):
         lines = ["  " * depth + repr(self)]
-        if self.role not in ("list", "tree", "table"):
+        if self.role not in VIEWS:
             for child in self.children:
                 lines.append(child.dump(depth + 1))
         return "\n".join(lines)

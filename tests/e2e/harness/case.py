@@ -11,7 +11,11 @@ import unittest
 
 from .desktop import Desktop
 from .mainwindow import MainWindow
-from .program import SETTLED, Program
+from .program import SETTLED, Program, settings_text
+
+
+# Few folders lie above it and beside it: the explorer has little to read and little that changes meanwhile.
+QUIET_PLACE = pathlib.Path("/var/tmp")
 
 
 class Case(unittest.TestCase):
@@ -25,10 +29,15 @@ class Case(unittest.TestCase):
         self.desktop = Desktop(self.window_manager, self.tray)
         self.addCleanup(self.desktop.stop)
         self.addCleanup(self.screenshot, "end")
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-"))
-        self.addCleanup(shutil.rmtree, self.folder)
+        self.folder = self.make_folder(QUIET_PLACE)
         self.home = self.folder / "home"
         self.home.mkdir()
+
+    def make_folder(self, place=None):
+        """A temporary folder that is removed after the test."""
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-", dir=place))
+        self.addCleanup(shutil.rmtree, folder)
+        return folder
 
     def screenshot(self, moment):
         folder = pathlib.Path(os.environ["ORVANTO_E2E_SCREENSHOTS"])
@@ -49,11 +58,21 @@ class Case(unittest.TestCase):
         return {str(file.relative_to(folder)): file.read_text(encoding="utf-8")
                 for file in folder.rglob("*") if file.is_file()}
 
-    def start(self, **settings):
-        """Starts the program with settled settings; keywords are written with __ in place of the dot."""
-        values = dict(SETTLED)
-        values.update((name.replace("__", "."), value) for name, value in settings.items())
-        self.program = Program(self.desktop, self.home, settings=values).start()
+    def start(self, text=settings_text(SETTLED), **settings):
+        """Starts the program with settled settings; keywords are written with __ in place of the dot.
+
+        With "text" the settings file is what is given, with None there is none.
+        """
+        self.program = Program(self.desktop, self.home)
+        if settings:
+            text = settings_text({**SETTLED, **{name.replace("__", "."): text for name, text in settings.items()}})
+        if text is not None:
+            self.program.write_settings(text)
+        return self.start_again()
+
+    def start_again(self):
+        """Starts the program with what the last run left."""
+        self.program.start()
         return MainWindow(self.program)
 
     def close(self, program=None):

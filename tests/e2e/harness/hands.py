@@ -29,12 +29,14 @@ class Hands:
     def click_at(self, x, y, button=LEFT, repeat=1, hold=None):
         pressed = ["keydown", hold] if hold else []
         released = ["keyup", hold] if hold else []
-        clicks = ["click", "--delay", 30, "--repeat", repeat, button] if repeat > 1 else ["click", button]
+        # The delay follows each click, the last one too.
+        clicks = ["click", "--delay", 20 if repeat > 1 else 1, "--repeat", repeat, button]
         self._do("mousemove", x, y, *pressed, *clicks, *released)
 
-    def scroll(self, widget, button):
+    def scroll(self, widget, button, clicks):
         extents = widget.extents
-        self._do("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2, "click", button)
+        self._do("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2,
+                 "click", "--delay", 1, "--repeat", clicks, button)
 
     def drag(self, start, target, accepted):
         """Drags from one point to another; lets go when accepted() is true of what is below the mouse."""
@@ -56,7 +58,7 @@ class Hands:
             self._do("mouseup", LEFT)
 
     def keys(self, *names):
-        self._do("key", *names)
+        self._do("key", "--delay", 2, *names)
 
     def type(self, text):
         self._do("type", "--delay", 2, "--", text)

@@ -7,11 +7,14 @@ Widgets are told apart by role, text and place, never by their order of creation
 
 import functools
 
+from .accessible import ask
 from .hands import WHEEL_DOWN, WHEEL_UP, Hands, middle_of
 from .waiting import Gone, until, until_equal, until_still
 
 
 REPORT = "alert message"
+WHEEL_ROWS = 3
+SCROLL_BAR = 18
 
 
 class MainWindow:
@@ -26,10 +29,16 @@ class MainWindow:
         self.files = self.files_panel.one("list")
         self.rules = self.rules_panel.one("tree")
 
+    def activate(self):
+        """Has the window manager bring the window to the front."""
+        number = until(lambda: self.program.x_window("Orvanto"), "the main window")
+        self.program.desktop.run("wmctrl", "-i", "-a", number)
+        until(lambda: self.frame.has("active"), "the main window to be active")
+
     # --- file list
 
     def file_texts(self):
-        return [item.name for item in self.files.children]
+        return self.files.names()
 
     def file_row(self, row):
         return self.files.child(row)
@@ -69,66 +78,72 @@ class MainWindow:
     def explorer(self):
         return self.frame.one("frame", "File Explorer").one("tree")
 
-    def explorer_item(self, path):
-        """The explorer's row of a file or folder; opens all folders above it."""
-        position, items, margin = -1, [], -1
-        parts = ["/", *path.parts[1:]]
-        for depth, name in enumerate(parts):
-            position, items, margin = until(lambda: self._find_in_explorer(position, margin, name),
-                                            f"{name!r} in the explorer")
-            item = items[position]
-            if depth < len(parts) - 1 and not item.has("expanded"):
-                self.bring_into_view(item)
-                self.hands.click(item, repeat=2)
-                until(lambda: item.has("expanded"), f"{name!r} to open")
-        self.bring_into_view(item)
-        return item
+    @functools.cached_property
+    def _explorer_columns(self):
+        return len(self.explorer.names("column header"))
 
-    def _find_in_explorer(self, parent, margin, name):
-        """Below the row "parent", whose text begins at "margin": the position and margin of a row."""
-        cells = self.explorer.children
-        columns = 0
-        while columns < len(cells) and cells[columns].role == "column header":
-            columns += 1
-        rows = cells[columns::columns] if columns else []
-        for position in range(parent + 1, len(rows)):
-            x = rows[position].extents.x
-            if x <= margin:
-                return None
+    def explorer_row(self, path):
+        """The explorer's row of a file or folder whose folders are all open.
+
+        To be looked up anew after every change: rows come and go while the explorer reads folders.
+        """
+        rows = self.explorer.children[self._explorer_columns::self._explorer_columns]
+        names = [name for (name,) in ask(rows, "name")]
+        position, margin = -1, -1
+        for name in ("/", *path.parts[1:]):
             # The first row below a folder tells where the folder's entries begin.
-            if position == parent + 1:
-                inner = x
-            if x == inner and rows[position].name == name:
-                return position, rows, x
-        return None
+            inner = rows[position + 1].extents.x if position + 1 < len(rows) else margin
+            below = range(position + 1, len(rows)) if inner > margin else ()
+            found = [row for row in below if names[row] == name and rows[row].extents.x == inner]
+            if not found:
+                raise Gone(f"{name!r} of {path} is not in the explorer")
+            position, margin = found[0], inner
+        return rows[position]
 
-    def bring_into_view(self, item):
-        tree = self.explorer
-        header = tree.child(0).extents
-        top = header.y + header.height
-        bottom = tree.extents.y + tree.extents.height - 18
+    def explorer_place(self, path):
+        """Opens all folders above a file or folder in the explorer, and brings it into view: where it is."""
+        for folder in reversed(path.parents):
+            self._open_in_explorer(folder)
+        return self._place_in_view(path)
 
-        def is_visible():
-            extents = until_still(lambda: item.extents, f"{item!r} to rest")
-            if top <= extents.y and extents.y + extents.height <= bottom:
-                return True
-            self.hands.scroll(tree, WHEEL_UP if extents.y < top else WHEEL_DOWN)
-            return False
+    def _open_in_explorer(self, folder):
+        def is_open():
+            return self.explorer_row(folder).has("expanded")
 
-        until(is_visible, f"{item!r} to come into view")
+        if not until(lambda: (is_open(),), f"{folder} in the explorer")[0]:
+            self.hands.click_at(*self._place_in_view(folder), repeat=2)
+            until(is_open, f"{folder} to open")
 
-    def drop_on_files(self, item):
+    def _place_in_view(self, path):
+        def find_place():
+            row = self.explorer_row(path)
+            while True:
+                extents = until_still(lambda: row.extents, f"{path} to rest")
+                if row.name != (path.name or "/"):
+                    return None
+                if top <= extents.y and extents.y + extents.height <= bottom:
+                    return extents.x + min(extents.width, 30) // 2, extents.y + extents.height // 2
+                distance = (extents.y - middle) // (WHEEL_ROWS * extents.height)
+                self.hands.scroll(self.explorer, WHEEL_DOWN if distance > 0 else WHEEL_UP, max(abs(distance), 1))
+                if until_still(lambda: row.extents, f"{path} to rest") == extents:
+                    return None
+
+        tree, header = self.explorer.extents, self.explorer.child(0).extents
+        top, bottom = header.y + header.height, tree.y + tree.height - SCROLL_BAR
+        middle = (top + bottom) // 2
+        return until(find_place, f"{path} to come into view")
+
+    def select_in_explorer(self, path, hold=None):
+        self.hands.click_at(*self.explorer_place(path), hold=hold)
+        until(lambda: self.explorer_row(path).has("selected"), f"{path} to be selected")
+
+    def add_by_drag(self, path):
         """Drags a row of the explorer, with all that is selected there, onto the file list."""
         if self.files.has("focused"):
             self.hands.click(self.filter_edit)
-        extents = item.extents
-        start = (extents.x + min(extents.width, 30) // 2, extents.y + extents.height // 2)
-        target = middle_of(self.files)
+            until(lambda: not self.files.has("focused"), "the file list to lose the focus")
         # The list takes the focus when a drag that it accepts comes in.
-        self.hands.drag(start, target, lambda: self.files.has("focused"))
-
-    def add_by_drag(self, path):
-        self.drop_on_files(self.explorer_item(path))
+        self.hands.drag(self.explorer_place(path), middle_of(self.files), lambda: self.files.has("focused"))
 
     # --- rules
 
@@ -207,7 +222,7 @@ class MainWindow:
         until_equal(rows + 1, lambda: len(self.rule_rows()), "the new rule in the list")
 
     def rule_rows(self):
-        cells = [cell.name for cell in self.rules.children if cell.role == "tree item"]
+        cells = self.rules.names("tree item")
         return list(zip(cells[0::2], cells[1::2]))
 
     def rule_button(self, which):
@@ -220,9 +235,13 @@ class MainWindow:
     def log_dock(self):
         return self.frame.one("frame", "Application Log")
 
+    @functools.cached_property
+    def _log_table(self):
+        return self.log_dock.one("table")
+
     def log_messages(self):
         """The messages of the log table, the oldest first."""
-        cells = [cell.name for cell in self.log_dock.one("table").children if cell.role == "cell"]
+        cells = self._log_table.names("cell")
         return cells[1::2][::-1]
 
     # --- run

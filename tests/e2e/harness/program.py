@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The built program, run with a home directory of its own."""
 
+import itertools
 import os
 import pathlib
 import subprocess
@@ -17,6 +18,9 @@ SETTLED = {
     "SupportUsHint": "false",
     "VersionCheck.Auto": "false",
 }
+
+
+_run_numbers = itertools.count(1)
 
 
 def executable():
@@ -79,7 +83,8 @@ class Program:
 
     def start(self):
         self.home.mkdir(parents=True, exist_ok=True)
-        self._output = [self.home / f"output-{id(self)}-{channel}" for channel in ("out", "err")]
+        self._number = next(_run_numbers)
+        self._output = [self.home / f"output-{self._number}-{channel}" for channel in ("out", "err")]
         with open(self._output[0], "wb") as out, open(self._output[1], "wb") as err:
             self.process = self.desktop.spawn([str(self.binary)], env=self._env, cwd=self.home, stdout=out,
                                               stderr=err)

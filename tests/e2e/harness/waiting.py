@@ -9,7 +9,7 @@ from gi.repository import GLib
 
 # A build with sanitizers on a loaded machine is many times slower; a deadline only costs time when a test fails.
 DEADLINE = float(os.environ.get("ORVANTO_E2E_DEADLINE", "30"))
-INTERVAL = 0.02
+INTERVAL = 0.01
 
 
 class Gone(LookupError):
