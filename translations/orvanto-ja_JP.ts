@@ -5,712 +5,712 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このメッセージを今後表示しない</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒント</translation>
     </message>
 </context>
 <context>
     <name>DialogSettings</name>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>グローバル設定</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>全般</translation>
     </message>
     <message>
         <source>Add-ons</source>
-        <translation type="unfinished"></translation>
+        <translation>アドオン</translation>
     </message>
     <message>
         <source>Localisation</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Donate</source>
-        <translation type="unfinished"></translation>
+        <translation>寄付</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation type="unfinished"></translation>
+        <translation>レジストリへの登録が必要です</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>システムの起動時に開始する</translation>
     </message>
     <message>
         <source>Minimize on start</source>
-        <translation type="unfinished"></translation>
+        <translation>起動時に最小化する</translation>
     </message>
     <message>
         <source>Disable splash screen</source>
-        <translation type="unfinished"></translation>
+        <translation>スプラッシュ画面を無効にする</translation>
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウのレイアウトを復元する</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウのサイズと位置を復元する</translation>
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation type="unfinished"></translation>
+        <translation>トレイアイコンに最小化する</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョンを自動的に確認する</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐ確認</translation>
     </message>
     <message>
         <source>Plugins</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>コード</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>国/地域</translation>
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳: Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
-        <translation type="unfinished"></translation>
+        <translation>このプロジェクトを支援する</translation>
     </message>
     <message>
         <source>This application is freeware and will always remain free. </source>
-        <translation type="unfinished"></translation>
+        <translation>このアプリケーションはフリーウェアであり、今後も常に無料です。 </translation>
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation type="unfinished"></translation>
+        <translation>少額のご寄付で、製品の開発、改良、保守をご支援いただけます。</translation>
     </message>
     <message>
         <source>Application Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションフォルダー</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションデータフォルダー</translation>
     </message>
     <message>
         <source>Visit our website</source>
-        <translation type="unfinished"></translation>
+        <translation>Web サイトを開く</translation>
     </message>
     <message>
         <source>Send us feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>フィードバックを送る</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;制作: Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>The command completed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドは正常に完了しました。</translation>
     </message>
     <message>
         <source>The command failed to execute.</source>
-        <translation type="unfinished"></translation>
+        <translation>コマンドを実行できませんでした。</translation>
     </message>
     <message>
         <source>Make sure you have administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>管理者権限があることを確認してください。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
     <name>DialogStart</name>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>コード</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>国/地域</translation>
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョンを自動的に確認する</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>次へ(&amp;N)</translation>
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation type="unfinished"></translation>
+        <translation>このソフトウェアをお選びいただきありがとうございます。お楽しみいただければ幸いです。</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation type="unfinished"></translation>
+        <translation>その他の製品はこちら:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>翻訳先の言語を母語とする翻訳者を募集しています。</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation type="unfinished"></translation>
+        <translation>ご連絡先: </translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>ルール</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>追加</translation>
     </message>
     <message>
         <source>Active Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>有効なルール</translation>
     </message>
     <message>
         <source>Rule</source>
-        <translation type="unfinished"></translation>
+        <translation>ルール</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティ</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>リストをクリア</translation>
     </message>
     <message>
         <source>File List</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル一覧</translation>
     </message>
     <message>
         <source>Name Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>名前フィルター</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>クリア</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビュー</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>名前を変更</translation>
     </message>
     <message>
         <source>Show full path</source>
-        <translation type="unfinished"></translation>
+        <translation>フルパスを表示</translation>
     </message>
     <message>
         <source>Application Log</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションログ</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>メッセージ</translation>
     </message>
     <message>
         <source>Save logs</source>
-        <translation type="unfinished"></translation>
+        <translation>ログを保存</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Include debug messages</source>
-        <translation type="unfinished"></translation>
+        <translation>デバッグメッセージを含める</translation>
     </message>
     <message>
         <source>Debug</source>
-        <translation type="unfinished"></translation>
+        <translation>デバッグ</translation>
     </message>
     <message>
         <source>Open log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>ログフォルダーを開く</translation>
     </message>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>グローバル設定</translation>
     </message>
     <message>
         <source>File Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスプローラー</translation>
     </message>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>お待ちください</translation>
     </message>
     <message>
         <source>Acquire files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを取得中</translation>
     </message>
     <message>
         <source>File renaming started</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名の変更を開始しました</translation>
     </message>
     <message>
         <source>Could not rename file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名を変更できませんでした</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>合計</translation>
     </message>
     <message>
         <source>Processed</source>
-        <translation type="unfinished"></translation>
+        <translation>処理済み</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>失敗</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポート</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>このソフトウェアを気に入っていただき、サービスの継続をお望みの場合は、ぜひご支援ください。</translation>
     </message>
     <message>
         <source>Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>ありがとうございます!</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションを最小化しました。</translation>
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示するにはトレイアイコンをクリックしてください。</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度</translation>
     </message>
     <message>
         <source>Stay on Top</source>
-        <translation type="unfinished"></translation>
+        <translation>常に手前に表示</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>ソケット操作がタイムアウトしました</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択(&amp;A)</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>増やす(&amp;I)</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>減らす(&amp;D)</translation>
     </message>
 </context>
 <context>
     <name>QDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
     <name>QDockWidget</name>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>フロート</translation>
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>ドックパネルの切り離しと再ドッキングを行います</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Closes the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>ドックパネルを閉じます</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>接続が拒否されました</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>接続が切断されました</translation>
     </message>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>ホスト %1 が見つかりません</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す(&amp;U)</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>切り取り(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付け(&amp;P)</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストに到達できません</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>ネットワークに到達できません</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の転送中にエラーが発生しました - サーバーの応答: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>はい(&amp;Y)</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>再試行</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>無視</translation>
     </message>
 </context>
 <context>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation type="unfinished"></translation>
+        <translation>ここまでスクロール</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation type="unfinished"></translation>
+        <translation>左端</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>上端</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation type="unfinished"></translation>
+        <translation>右端</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>下端</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ページ左へ</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ページ上へ</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ページ右へ</translation>
     </message>
     <message>
         <source>Page down</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ページ下へ</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation type="unfinished"></translation>
+        <translation>左へスクロール</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation type="unfinished"></translation>
+        <translation>上へスクロール</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation type="unfinished"></translation>
+        <translation>右へスクロール</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation type="unfinished"></translation>
+        <translation>下へスクロール</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー(&amp;C)</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>リンクのアドレスをコピー(&amp;L)</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択</translation>
     </message>
 </context>
 <context>
     <name>Rules</name>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>方向</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>先頭から</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾から</translation>
     </message>
     <message>
         <source>Change Case</source>
-        <translation type="unfinished"></translation>
+        <translation>大文字/小文字の変更</translation>
     </message>
     <message>
         <source>Uppercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>大文字</translation>
     </message>
     <message>
         <source>Lowercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>小文字</translation>
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation type="unfinished"></translation>
+        <translation>各単語の先頭文字を大文字にする</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>拡張子を無視する</translation>
     </message>
     <message>
         <source>Enumerate</source>
-        <translation type="unfinished"></translation>
+        <translation>連番</translation>
     </message>
     <message>
         <source>Start Number</source>
-        <translation type="unfinished"></translation>
+        <translation>開始番号</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>位置</translation>
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>先行ゼロ</translation>
     </message>
     <message>
         <source>Insert Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストの挿入</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>置換</translation>
     </message>
     <message>
         <source>Replace what</source>
-        <translation type="unfinished"></translation>
+        <translation>検索する文字列</translation>
     </message>
     <message>
         <source>Replace with</source>
-        <translation type="unfinished"></translation>
+        <translation>置換後の文字列</translation>
     </message>
     <message>
         <source>Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>正規表現</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>文字の削除</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>長さ</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>復元(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
 </context>
 <context>
     <name>VersionCheck</name>
     <message>
         <source>Data transmission failure</source>
-        <translation type="unfinished"></translation>
+        <translation>データ転送エラー</translation>
     </message>
     <message>
         <source>Version check failed</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョンを確認できませんでした</translation>
     </message>
     <message>
         <source>Error connecting to server.</source>
-        <translation type="unfinished"></translation>
+        <translation>サーバーへの接続中にエラーが発生しました。</translation>
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation type="unfinished"></translation>
+        <translation>次のアドレスで手動で確認してください:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation type="unfinished"></translation>
+        <translation>新しいバージョンがあります!</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>今すぐダウンロードしますか?</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>後で</translation>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation type="unfinished"></translation>
+        <translation>新機能は?</translation>
     </message>
     <message>
         <source>Skip Version</source>
-        <translation type="unfinished"></translation>
+        <translation>このバージョンをスキップ</translation>
     </message>
     <message>
         <source>You are using the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>最新バージョンを使用しています。</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
 </context>
 </TS>
