@@ -5,7 +5,7 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation>このメッセージを今後表示しない</translation>
+        <translation>今後このメッセージを表示しない</translation>
     </message>
     <message>
         <source>Close</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>システムの起動時に開始する</translation>
+        <translation>システムの起動時に自動的に起動する</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>ご連絡先: </translation>
+        <translation>お問い合わせ先: </translation>
     </message>
 </context>
 <context>
@@ -218,7 +218,7 @@
     </message>
     <message>
         <source>Clear list</source>
-        <translation>リストをクリア</translation>
+        <translation>一覧をクリア</translation>
     </message>
     <message>
         <source>File List</source>
@@ -342,7 +342,7 @@
     </message>
     <message>
         <source>Stay on Top</source>
-        <translation>常に手前に表示</translation>
+        <translation>常に最前面に表示</translation>
     </message>
 </context>
 <context>

@@ -187,11 +187,11 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Szukamy tłumaczy, dla których jest to język ojczysty.</translation>
+        <translation>Poszukujemy tłumaczy przekładających na swój język ojczysty.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Skontaktuj się z nami: </translation>
+        <translation>Skontaktuj się z nami pod adresem: </translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Save logs</source>
-        <translation>Zapisuj dzienniki</translation>
+        <translation>Zapisuj dziennik</translation>
     </message>
     <message>
         <source>Save</source>
@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation>Kliknij ikonę w zasobniku, aby go pokazać.</translation>
+        <translation>Aby pokazać okno, kliknij ikonę w zasobniku.</translation>
     </message>
     <message>
         <source>Opacity</source>
@@ -596,7 +596,7 @@
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation>Każde słowo wielką literą</translation>
+        <translation>Każde słowo od wielkiej litery</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>
@@ -636,7 +636,7 @@
     </message>
     <message>
         <source>Replace with</source>
-        <translation>Zamień na</translation>
+        <translation>Na co zamienić</translation>
     </message>
     <message>
         <source>Regular Expression</source>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Запускать при старте системы</translation>
+        <translation>Запускать вместе с системой</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation>Сворачивать в значок в трее</translation>
+        <translation>Сворачивать в трей</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Другие наши продукты:</translation>
+        <translation>Познакомьтесь с другими нашими продуктами:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Свяжитесь с нами: </translation>
+        <translation>Свяжитесь с нами по адресу: </translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Save logs</source>
-        <translation>Сохранять журналы</translation>
+        <translation>Сохранять журнал</translation>
     </message>
     <message>
         <source>Save</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Please wait</source>
-        <translation>Подождите</translation>
+        <translation>Пожалуйста, подождите</translation>
     </message>
     <message>
         <source>Acquire files</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>Ошибок</translation>
+        <translation>Не удалось</translation>
     </message>
     <message>
         <source>Report</source>
@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation>Чтобы показать её, щёлкните значок в трее.</translation>
+        <translation>Чтобы показать окно, щёлкните значок в трее.</translation>
     </message>
     <message>
         <source>Opacity</source>
@@ -686,7 +686,7 @@
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation>Загрузить её сейчас?</translation>
+        <translation>Хотите загрузить её сейчас?</translation>
     </message>
     <message>
         <source>Download</source>

@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation>Yeni sürümü otomatik olarak denetle</translation>
+        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation>Küçük bir katkıda bulunarak ürünlerimizi geliştirmemize, yükseltmemize ve sürdürmemize yardımcı olabilirsiniz.</translation>
+        <translation>Küçük bir katkıda bulunarak ürünlerimizi geliştirmemize, yenilememize ve sürdürmemize yardımcı olabilirsiniz.</translation>
     </message>
     <message>
         <source>Application Directory</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation>&lt;b style=&apos;color:#888&apos;&gt;Kavrondel tarafından yapılmıştır&lt;/b&gt;</translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Kavrondel tarafından geliştirilmiştir&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
@@ -171,7 +171,7 @@
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation>Yeni sürümleri otomatik olarak denetle</translation>
+        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>File renaming started</source>
-        <translation>Dosyaları yeniden adlandırma başladı</translation>
+        <translation>Dosyaları yeniden adlandırma işlemi başladı</translation>
     </message>
     <message>
         <source>Could not rename file</source>
@@ -584,7 +584,7 @@
     </message>
     <message>
         <source>Change Case</source>
-        <translation>Harf Büyüklüğünü Değiştir</translation>
+        <translation>Büyük/Küçük Harf Değiştir</translation>
     </message>
     <message>
         <source>Uppercase letters</source>
@@ -632,7 +632,7 @@
     </message>
     <message>
         <source>Replace what</source>
-        <translation>Aranan</translation>
+        <translation>Aranan metin</translation>
     </message>
     <message>
         <source>Replace with</source>

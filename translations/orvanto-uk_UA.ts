@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Запускати під час старту системи</translation>
+        <translation>Запускати разом із системою</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation>Згортати до значка в треї</translation>
+        <translation>Згортати в трей</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Інші наші продукти:</translation>
+        <translation>Ознайомтеся з іншими нашими продуктами:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Зв’яжіться з нами: </translation>
+        <translation>Зв’яжіться з нами за адресою: </translation>
     </message>
 </context>
 <context>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Save logs</source>
-        <translation>Зберігати журнали</translation>
+        <translation>Зберігати журнал</translation>
     </message>
     <message>
         <source>Save</source>
@@ -266,11 +266,11 @@
     </message>
     <message>
         <source>Include debug messages</source>
-        <translation>Включати повідомлення зневадження</translation>
+        <translation>Включати налагоджувальні повідомлення</translation>
     </message>
     <message>
         <source>Debug</source>
-        <translation>Зневадження</translation>
+        <translation>Налагодження</translation>
     </message>
     <message>
         <source>Open log directory</source>
@@ -286,7 +286,7 @@
     </message>
     <message>
         <source>Please wait</source>
-        <translation>Зачекайте</translation>
+        <translation>Будь ласка, зачекайте</translation>
     </message>
     <message>
         <source>Acquire files</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>Помилок</translation>
+        <translation>Не вдалося</translation>
     </message>
     <message>
         <source>Report</source>
@@ -334,7 +334,7 @@
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation>Щоб показати її, клацніть значок у треї.</translation>
+        <translation>Щоб показати вікно, клацніть значок у треї.</translation>
     </message>
     <message>
         <source>Opacity</source>
@@ -686,7 +686,7 @@
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation>Завантажити її зараз?</translation>
+        <translation>Бажаєте завантажити її зараз?</translation>
     </message>
     <message>
         <source>Download</source>

@@ -644,7 +644,7 @@
     </message>
     <message>
         <source>Trim</source>
-        <translation>裁剪</translation>
+        <translation>删除字符</translation>
     </message>
     <message>
         <source>Length</source>
@@ -694,11 +694,11 @@
     </message>
     <message>
         <source>Later</source>
-        <translation>以后</translation>
+        <translation>稍后</translation>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation>新增功能？</translation>
+        <translation>有哪些更新？</translation>
     </message>
     <message>
         <source>Skip Version</source>
