@@ -5,712 +5,712 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne plus afficher ce message.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Conseil</translation>
     </message>
 </context>
 <context>
     <name>DialogSettings</name>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres généraux</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Add-ons</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules</translation>
     </message>
     <message>
         <source>Localisation</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Donate</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire un don</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Nécessite une entrée dans le registre</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer au démarrage du système</translation>
     </message>
     <message>
         <source>Minimize on start</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire au démarrage</translation>
     </message>
     <message>
         <source>Disable splash screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Désactiver l’écran de démarrage</translation>
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer la disposition des fenêtres</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer la taille et la position de la fenêtre</translation>
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire dans la zone de notification</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement une nouvelle version</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier</translation>
     </message>
     <message>
         <source>Plugins</source>
-        <translation type="unfinished"></translation>
+        <translation>Greffons</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Pays</translation>
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation type="unfinished"></translation>
+        <translation>Traduction : Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
-        <translation type="unfinished"></translation>
+        <translation>Soutenir ce projet</translation>
     </message>
     <message>
         <source>This application is freeware and will always remain free. </source>
-        <translation type="unfinished"></translation>
+        <translation>Cette application est gratuite et le restera toujours. </translation>
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation type="unfinished"></translation>
+        <translation>Par une petite contribution, vous pouvez nous aider à développer, à améliorer et à maintenir nos produits.</translation>
     </message>
     <message>
         <source>Application Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de l’application</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des données de l’application</translation>
     </message>
     <message>
         <source>Visit our website</source>
-        <translation type="unfinished"></translation>
+        <translation>Visiter notre site web</translation>
     </message>
     <message>
         <source>Send us feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Nous envoyer vos commentaires</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Réalisé par Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>The command completed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>La commande s’est terminée correctement.</translation>
     </message>
     <message>
         <source>The command failed to execute.</source>
-        <translation type="unfinished"></translation>
+        <translation>La commande n’a pas pu être exécutée.</translation>
     </message>
     <message>
         <source>Make sure you have administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Assurez-vous de disposer des droits d’administrateur.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>DialogStart</name>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Pays</translation>
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher automatiquement les nouvelles versions</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suivant</translation>
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nous vous remercions de votre confiance et espérons que ce logiciel vous plaira.</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation type="unfinished"></translation>
+        <translation>Découvrez nos autres produits :</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nous recherchons des traducteurs de langue maternelle.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez nous contacter à l’adresse : </translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Active Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles actives</translation>
     </message>
     <message>
         <source>Rule</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider la liste</translation>
     </message>
     <message>
         <source>File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste des fichiers</translation>
     </message>
     <message>
         <source>Name Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre de noms</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Show full path</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le chemin complet</translation>
     </message>
     <message>
         <source>Application Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal de l’application</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Message</translation>
     </message>
     <message>
         <source>Save logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les journaux</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Include debug messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Inclure les messages de débogage</translation>
     </message>
     <message>
         <source>Debug</source>
-        <translation type="unfinished"></translation>
+        <translation>Débogage</translation>
     </message>
     <message>
         <source>Open log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dossier des journaux</translation>
     </message>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres généraux</translation>
     </message>
     <message>
         <source>File Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorateur de fichiers</translation>
     </message>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez patienter</translation>
     </message>
     <message>
         <source>Acquire files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout des fichiers</translation>
     </message>
     <message>
         <source>File renaming started</source>
-        <translation type="unfinished"></translation>
+        <translation>Début du renommage des fichiers</translation>
     </message>
     <message>
         <source>Could not rename file</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de renommer le fichier</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Processed</source>
-        <translation type="unfinished"></translation>
+        <translation>Traités</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échecs</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soutenez-nous si ce logiciel vous plaît et si vous souhaitez que notre service perdure.</translation>
     </message>
     <message>
         <source>Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>Merci !</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’application a été réduite.</translation>
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur l’icône de la zone de notification pour l’afficher.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité</translation>
     </message>
     <message>
         <source>Stay on Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours au premier plan</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Délai d’une opération de socket dépassé</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ugmenter</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diminuer</translation>
     </message>
 </context>
 <context>
     <name>QDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>QDockWidget</name>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher</translation>
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Détache et rattache le panneau</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Closes the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferme le panneau</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion refusée</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion fermée</translation>
     </message>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Hôte %1 introuvable</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Couper</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Hôte inaccessible</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau inaccessible</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur lors du transfert de %1 - réponse du serveur : %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer</translation>
     </message>
 </context>
 <context>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire défiler jusqu’ici</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Bord gauche</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Haut</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Bord droit</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Bas</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation type="unfinished"></translation>
+        <translation>Page vers la gauche</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation type="unfinished"></translation>
+        <translation>Page vers le haut</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation type="unfinished"></translation>
+        <translation>Page vers la droite</translation>
     </message>
     <message>
         <source>Page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Page vers le bas</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation type="unfinished"></translation>
+        <translation>Défiler vers la gauche</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation type="unfinished"></translation>
+        <translation>Défiler vers le haut</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation type="unfinished"></translation>
+        <translation>Défiler vers la droite</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation type="unfinished"></translation>
+        <translation>Défiler vers le bas</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l’adresse du &amp;lien</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
     <name>Rules</name>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Change Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer la casse</translation>
     </message>
     <message>
         <source>Uppercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Majuscules</translation>
     </message>
     <message>
         <source>Lowercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuscules</translation>
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation type="unfinished"></translation>
+        <translation>Majuscule au début de chaque mot</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer l’extension du fichier</translation>
     </message>
     <message>
         <source>Enumerate</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéroter</translation>
     </message>
     <message>
         <source>Start Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de départ</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>Zéros initiaux</translation>
     </message>
     <message>
         <source>Insert Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérer du texte</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Replace what</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Replace with</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer par</translation>
     </message>
     <message>
         <source>Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expression régulière</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
 </context>
 <context>
     <name>VersionCheck</name>
     <message>
         <source>Data transmission failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la transmission des données</translation>
     </message>
     <message>
         <source>Version check failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la vérification de version</translation>
     </message>
     <message>
         <source>Error connecting to server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur de connexion au serveur.</translation>
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez vérifier vous-même à l’adresse :</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation type="unfinished"></translation>
+        <translation>Une nouvelle version est disponible !</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous la télécharger maintenant ?</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quoi de neuf ?</translation>
     </message>
     <message>
         <source>Skip Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer cette version</translation>
     </message>
     <message>
         <source>You are using the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous utilisez la dernière version.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 </TS>

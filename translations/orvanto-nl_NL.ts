@@ -5,712 +5,712 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dit bericht niet meer tonen.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Advies</translation>
     </message>
 </context>
 <context>
     <name>DialogSettings</name>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemene instellingen</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemeen</translation>
     </message>
     <message>
         <source>Add-ons</source>
-        <translation type="unfinished"></translation>
+        <translation>Uitbreidingen</translation>
     </message>
     <message>
         <source>Localisation</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal</translation>
     </message>
     <message>
         <source>Donate</source>
-        <translation type="unfinished"></translation>
+        <translation>Doneren</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Vereist een registervermelding</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden bij het opstarten van het systeem</translation>
     </message>
     <message>
         <source>Minimize on start</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimaliseren bij het starten</translation>
     </message>
     <message>
         <source>Disable splash screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Opstartscherm uitschakelen</translation>
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Vensterindeling herstellen</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Venstergrootte en -positie herstellen</translation>
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimaliseren naar systeemvak</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch controleren op nieuwe versie</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nu controleren</translation>
     </message>
     <message>
         <source>Plugins</source>
-        <translation type="unfinished"></translation>
+        <translation>Plug-ins</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Land</translation>
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation type="unfinished"></translation>
+        <translation>Vertaling: Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
-        <translation type="unfinished"></translation>
+        <translation>Steun dit project</translation>
     </message>
     <message>
         <source>This application is freeware and will always remain free. </source>
-        <translation type="unfinished"></translation>
+        <translation>Dit programma is freeware en blijft altijd gratis. </translation>
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation type="unfinished"></translation>
+        <translation>Met een kleine bijdrage helpt u ons onze producten te ontwikkelen, te verbeteren en te onderhouden.</translation>
     </message>
     <message>
         <source>Application Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmamap</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Map met programmagegevens</translation>
     </message>
     <message>
         <source>Visit our website</source>
-        <translation type="unfinished"></translation>
+        <translation>Onze website bezoeken</translation>
     </message>
     <message>
         <source>Send us feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Feedback sturen</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Gemaakt door Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Opslaan</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>The command completed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>De opdracht is voltooid.</translation>
     </message>
     <message>
         <source>The command failed to execute.</source>
-        <translation type="unfinished"></translation>
+        <translation>De opdracht kon niet worden uitgevoerd.</translation>
     </message>
     <message>
         <source>Make sure you have administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zorg dat u beheerdersrechten hebt.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>
     <name>DialogStart</name>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Code</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Taal</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>Land</translation>
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch controleren op nieuwe versies</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volgende</translation>
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wij danken u voor uw vertrouwen en wensen u veel plezier met dit programma.</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ontdek onze andere producten:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wij zoeken vertalers die in hun moedertaal vertalen.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation type="unfinished"></translation>
+        <translation>Neem contact met ons op via: </translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Regels</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Toevoegen</translation>
     </message>
     <message>
         <source>Active Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Actieve regels</translation>
     </message>
     <message>
         <source>Rule</source>
-        <translation type="unfinished"></translation>
+        <translation>Regel</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschappen</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lijst wissen</translation>
     </message>
     <message>
         <source>File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestandenlijst</translation>
     </message>
     <message>
         <source>Name Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Naamfilter</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Wissen</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorbeeld</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Hernoemen</translation>
     </message>
     <message>
         <source>Show full path</source>
-        <translation type="unfinished"></translation>
+        <translation>Volledig pad tonen</translation>
     </message>
     <message>
         <source>Application Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmalogboek</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tijd</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht</translation>
     </message>
     <message>
         <source>Save logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Logboeken opslaan</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Opslaan</translation>
     </message>
     <message>
         <source>Include debug messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Debugberichten opnemen</translation>
     </message>
     <message>
         <source>Debug</source>
-        <translation type="unfinished"></translation>
+        <translation>Debug</translation>
     </message>
     <message>
         <source>Open log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Logboekmap openen</translation>
     </message>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Algemene instellingen</translation>
     </message>
     <message>
         <source>File Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestandsverkenner</translation>
     </message>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Even geduld</translation>
     </message>
     <message>
         <source>Acquire files</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestanden verzamelen</translation>
     </message>
     <message>
         <source>File renaming started</source>
-        <translation type="unfinished"></translation>
+        <translation>Hernoemen van bestanden gestart</translation>
     </message>
     <message>
         <source>Could not rename file</source>
-        <translation type="unfinished"></translation>
+        <translation>Hernoemen mislukt voor bestand</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaal</translation>
     </message>
     <message>
         <source>Processed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwerkt</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mislukt</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Steun ons als dit programma u bevalt en u onze dienst in stand wilt houden.</translation>
     </message>
     <message>
         <source>Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>Hartelijk dank!</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
-        <translation type="unfinished"></translation>
+        <translation>Het programma is geminimaliseerd.</translation>
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik op het pictogram in het systeemvak om het te tonen.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Dekking</translation>
     </message>
     <message>
         <source>Stay on Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Altijd op de voorgrond</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Time-out bij een socketbewerking</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles selecteren</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verhogen</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver&amp;lagen</translation>
     </message>
 </context>
 <context>
     <name>QDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuleren</translation>
     </message>
 </context>
 <context>
     <name>QDockWidget</name>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Losmaken</translation>
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Maakt het paneel los en weer vast</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
     <message>
         <source>Closes the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluit het paneel</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Naam</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinding geweigerd</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinding gesloten</translation>
     </message>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Host %1 niet gevonden</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>On&amp;gedaan maken</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Op&amp;nieuw</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Knippen</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;opiëren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plakken</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Verwijderen</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles selecteren</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Host onbereikbaar</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Netwerk onbereikbaar</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fout bij het overdragen van %1 - antwoord van de server: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Opnieuw proberen</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Negeren</translation>
     </message>
 </context>
 <context>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hierheen schuiven</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Linkerrand</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Bovenrand</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechterrand</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Onderrand</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina naar links</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina omhoog</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina naar rechts</translation>
     </message>
     <message>
         <source>Page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina omlaag</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation type="unfinished"></translation>
+        <translation>Naar links schuiven</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation type="unfinished"></translation>
+        <translation>Omhoog schuiven</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation type="unfinished"></translation>
+        <translation>Naar rechts schuiven</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation type="unfinished"></translation>
+        <translation>Omlaag schuiven</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;opiëren</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Linkadres kopiëren</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles selecteren</translation>
     </message>
 </context>
 <context>
     <name>Rules</name>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Richting</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Begin</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Einde</translation>
     </message>
     <message>
         <source>Change Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoofdletters/kleine letters</translation>
     </message>
     <message>
         <source>Uppercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoofdletters</translation>
     </message>
     <message>
         <source>Lowercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine letters</translation>
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation type="unfinished"></translation>
+        <translation>Elk woord met een hoofdletter</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestandsextensie negeren</translation>
     </message>
     <message>
         <source>Enumerate</source>
-        <translation type="unfinished"></translation>
+        <translation>Nummeren</translation>
     </message>
     <message>
         <source>Start Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Beginnummer</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Positie</translation>
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>Voorloopnullen</translation>
     </message>
     <message>
         <source>Insert Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst invoegen</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Vervangen</translation>
     </message>
     <message>
         <source>Replace what</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoeken naar</translation>
     </message>
     <message>
         <source>Replace with</source>
-        <translation type="unfinished"></translation>
+        <translation>Vervangen door</translation>
     </message>
     <message>
         <source>Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Reguliere expressie</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkorten</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Lengte</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Herstellen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afsluiten</translation>
     </message>
 </context>
 <context>
     <name>VersionCheck</name>
     <message>
         <source>Data transmission failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Fout bij de gegevensoverdracht</translation>
     </message>
     <message>
         <source>Version check failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiecontrole mislukt</translation>
     </message>
     <message>
         <source>Error connecting to server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fout bij het verbinden met de server.</translation>
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation type="unfinished"></translation>
+        <translation>Controleer het zelf op:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation type="unfinished"></translation>
+        <translation>Er is een nieuwe versie beschikbaar!</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wilt u deze nu downloaden?</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloaden</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Later</translation>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wat is er nieuw?</translation>
     </message>
     <message>
         <source>Skip Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versie overslaan</translation>
     </message>
     <message>
         <source>You are using the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>U gebruikt de nieuwste versie.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Sluiten</translation>
     </message>
 </context>
 </TS>

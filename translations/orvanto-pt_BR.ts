@@ -5,712 +5,712 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não mostrar esta mensagem novamente.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Advice</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
 </context>
 <context>
     <name>DialogSettings</name>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações gerais</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Geral</translation>
     </message>
     <message>
         <source>Add-ons</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensões</translation>
     </message>
     <message>
         <source>Localisation</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Donate</source>
-        <translation type="unfinished"></translation>
+        <translation>Doar</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre</translation>
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation type="unfinished"></translation>
+        <translation>Requer uma entrada no registro</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar ao iniciar o sistema</translation>
     </message>
     <message>
         <source>Minimize on start</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar ao iniciar</translation>
     </message>
     <message>
         <source>Disable splash screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Desativar a tela de abertura</translation>
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar a disposição da janela</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar o tamanho e a posição da janela</translation>
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar para a bandeja do sistema</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar novas versões automaticamente</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar agora</translation>
     </message>
     <message>
         <source>Plugins</source>
-        <translation type="unfinished"></translation>
+        <translation>Plugins</translation>
     </message>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>País</translation>
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation type="unfinished"></translation>
+        <translation>Tradução: Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
-        <translation type="unfinished"></translation>
+        <translation>Apoie este projeto</translation>
     </message>
     <message>
         <source>This application is freeware and will always remain free. </source>
-        <translation type="unfinished"></translation>
+        <translation>Este aplicativo é gratuito e sempre será. </translation>
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation type="unfinished"></translation>
+        <translation>Com uma pequena contribuição, você pode nos ajudar a desenvolver, melhorar e manter nossos produtos.</translation>
     </message>
     <message>
         <source>Application Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasta do aplicativo</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasta de dados do aplicativo</translation>
     </message>
     <message>
         <source>Visit our website</source>
-        <translation type="unfinished"></translation>
+        <translation>Visitar nosso site</translation>
     </message>
     <message>
         <source>Send us feedback</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar comentários</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Feito por Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>The command completed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>O comando foi concluído com sucesso.</translation>
     </message>
     <message>
         <source>The command failed to execute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível executar o comando.</translation>
     </message>
     <message>
         <source>Make sure you have administrator rights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifique se você tem direitos de administrador.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
     <name>DialogStart</name>
     <message>
         <source>Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Country</source>
-        <translation type="unfinished"></translation>
+        <translation>País</translation>
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar novas versões automaticamente</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avançar</translation>
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation type="unfinished"></translation>
+        <translation>Agradecemos a sua confiança e esperamos que você goste deste programa.</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation type="unfinished"></translation>
+        <translation>Conheça outros produtos nossos:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation type="unfinished"></translation>
+        <translation>Procuramos tradutores nativos.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation type="unfinished"></translation>
+        <translation>Entre em contato conosco em: </translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Regras</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar</translation>
     </message>
     <message>
         <source>Active Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Regras ativas</translation>
     </message>
     <message>
         <source>Rule</source>
-        <translation type="unfinished"></translation>
+        <translation>Regra</translation>
     </message>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriedades</translation>
     </message>
     <message>
         <source>Clear list</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar a lista</translation>
     </message>
     <message>
         <source>File List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de arquivos</translation>
     </message>
     <message>
         <source>Name Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de nomes</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré-visualizar</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomear</translation>
     </message>
     <message>
         <source>Show full path</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar o caminho completo</translation>
     </message>
     <message>
         <source>Application Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro do aplicativo</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensagem</translation>
     </message>
     <message>
         <source>Save logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar os registros</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvar</translation>
     </message>
     <message>
         <source>Include debug messages</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluir mensagens de depuração</translation>
     </message>
     <message>
         <source>Debug</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuração</translation>
     </message>
     <message>
         <source>Open log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir a pasta de registros</translation>
     </message>
     <message>
         <source>Global Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações gerais</translation>
     </message>
     <message>
         <source>File Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorador de arquivos</translation>
     </message>
     <message>
         <source>Please wait</source>
-        <translation type="unfinished"></translation>
+        <translation>Aguarde</translation>
     </message>
     <message>
         <source>Acquire files</source>
-        <translation type="unfinished"></translation>
+        <translation>Obtendo arquivos</translation>
     </message>
     <message>
         <source>File renaming started</source>
-        <translation type="unfinished"></translation>
+        <translation>Renomeação de arquivos iniciada</translation>
     </message>
     <message>
         <source>Could not rename file</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível renomear o arquivo</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Processed</source>
-        <translation type="unfinished"></translation>
+        <translation>Processados</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Com falha</translation>
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Relatório</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Apoie-nos se você gosta deste programa e quer manter nosso serviço no ar.</translation>
     </message>
     <message>
         <source>Thank you!</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrigado!</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
-        <translation type="unfinished"></translation>
+        <translation>O aplicativo foi minimizado.</translation>
     </message>
     <message>
         <source>Click the tray icon to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique no ícone da bandeja para mostrá-lo.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidade</translation>
     </message>
     <message>
         <source>Stay on Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Sempre visível</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo esgotado em uma operação de soquete</translation>
     </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
     <message>
         <source>&amp;Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Selecionar tudo</translation>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aumentar</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;minuir</translation>
     </message>
 </context>
 <context>
     <name>QDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>QDockWidget</name>
     <message>
         <source>Float</source>
-        <translation type="unfinished"></translation>
+        <translation>Desencaixar</translation>
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Desencaixa e reencaixa o painel</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Closes the dock widget</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha o painel</translation>
     </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
 </context>
 <context>
     <name>QHttp</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexão recusada</translation>
     </message>
     <message>
         <source>Connection closed</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexão encerrada</translation>
     </message>
     <message>
         <source>Host %1 not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor %1 não encontrado</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desfazer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Refazer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Recor&amp;tar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluir</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor inacessível</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Rede inacessível</translation>
     </message>
 </context>
 <context>
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao transferir %1 - resposta do servidor: %2</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sim</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Tentar novamente</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar</translation>
     </message>
 </context>
 <context>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar até aqui</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borda esquerda</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Borda direita</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Fim</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation type="unfinished"></translation>
+        <translation>Página à esquerda</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation type="unfinished"></translation>
+        <translation>Página acima</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation type="unfinished"></translation>
+        <translation>Página à direita</translation>
     </message>
     <message>
         <source>Page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Página abaixo</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar para a esquerda</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar para cima</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar para a direita</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation type="unfinished"></translation>
+        <translation>Rolar para baixo</translation>
     </message>
 </context>
 <context>
     <name>QShortcut</name>
     <message>
         <source>Ctrl</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
 </context>
 <context>
     <name>QWidgetTextControl</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>Copy &amp;Link Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar o endereço do &amp;link</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
 </context>
 <context>
     <name>Rules</name>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Direção</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fim</translation>
     </message>
     <message>
         <source>Change Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiúsculas/minúsculas</translation>
     </message>
     <message>
         <source>Uppercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Letras maiúsculas</translation>
     </message>
     <message>
         <source>Lowercase letters</source>
-        <translation type="unfinished"></translation>
+        <translation>Letras minúsculas</translation>
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeira letra de cada palavra em maiúscula</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar a extensão do arquivo</translation>
     </message>
     <message>
         <source>Enumerate</source>
-        <translation type="unfinished"></translation>
+        <translation>Numerar</translation>
     </message>
     <message>
         <source>Start Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número inicial</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição</translation>
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeros à esquerda</translation>
     </message>
     <message>
         <source>Insert Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserir texto</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Substituir</translation>
     </message>
     <message>
         <source>Replace what</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizar</translation>
     </message>
     <message>
         <source>Replace with</source>
-        <translation type="unfinished"></translation>
+        <translation>Substituir por</translation>
     </message>
     <message>
         <source>Regular Expression</source>
-        <translation type="unfinished"></translation>
+        <translation>Expressão regular</translation>
     </message>
     <message>
         <source>Trim</source>
-        <translation type="unfinished"></translation>
+        <translation>Aparar</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimento</translation>
     </message>
 </context>
 <context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sair</translation>
     </message>
 </context>
 <context>
     <name>VersionCheck</name>
     <message>
         <source>Data transmission failure</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na transmissão de dados</translation>
     </message>
     <message>
         <source>Version check failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha ao verificar a versão</translation>
     </message>
     <message>
         <source>Error connecting to server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro ao conectar ao servidor.</translation>
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifique manualmente em:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation type="unfinished"></translation>
+        <translation>Há uma nova versão disponível!</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Deseja baixá-la agora?</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Baixar</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Mais tarde</translation>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation type="unfinished"></translation>
+        <translation>O que há de novo?</translation>
     </message>
     <message>
         <source>Skip Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar esta versão</translation>
     </message>
     <message>
         <source>You are using the latest version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Você está usando a versão mais recente.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
 </context>
 </TS>
