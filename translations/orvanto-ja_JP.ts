@@ -5,7 +5,7 @@
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
-        <translation>今後このメッセージを表示しない。</translation>
+        <translation>今後このメッセージを表示しない</translation>
     </message>
     <message>
         <source>Close</source>
