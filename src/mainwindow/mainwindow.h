@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QSystemTrayIcon>
 
+#include <functional>
 #include <memory>
 
 class ProgressDialog;
@@ -65,6 +66,9 @@ public:
     /// Closes without the request for support: the system ends the program.
     void closeQuietly();
 
+    /// Called when the window has been closed: with its icon in the tray it may have been hidden before.
+    std::function<void()> closed;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -93,6 +97,7 @@ private:
     void restoreWindowGeometry();
     void saveWindowSettings();
     void requestSupport();
+    void closeFromAnyState();
 
     void fillRuleComboBox();
     void refreshRuleTree();
