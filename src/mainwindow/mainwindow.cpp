@@ -196,7 +196,7 @@ void MainWindow::nameIconButtons()
             button->setAccessibleName(button->statusTip());
     }
     const auto actions = ui->toolBar->actions();
-    for (const QAction *action : actions) {
+    for (QAction *action : actions) {
         if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
             button->setAccessibleName(action->statusTip());
     }
