@@ -231,6 +231,16 @@ private slots:
         QTRY_VERIFY(list->visualItemRect(list->item(list->count() - 1)).isValid() && everyRowIsLaidOut());
     }
 
+    void rowsAddedRightAfterACostlyLayoutShowByThemselves()
+    {
+        add(50000);
+        list->doItemsLayout();
+        // These come while no layout is due; no other row follows them.
+        add(3);
+        QTRY_VERIFY(list->visualItemRect(list->item(50002)).isValid());
+        QVERIFY(everyRowIsLaidOut());
+    }
+
     void rowsHeldBackCanBeSelectedMovedAndRemoved()
     {
         add(5000);
