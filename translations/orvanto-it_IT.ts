@@ -458,13 +458,6 @@
     </message>
 </context>
 <context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Errore durante il trasferimento di %1 - risposta del server: %2</translation>
-    </message>
-</context>
-<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>

@@ -458,13 +458,6 @@
     </message>
 </context>
 <context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Fout bij het overdragen van %1 - antwoord van de server: %2</translation>
-    </message>
-</context>
-<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
