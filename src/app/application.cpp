@@ -10,12 +10,16 @@
 #include "core/localizer.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
+#include "dialogs/dialogstart.h"
 #include "mainwindow/mainwindow.h"
 #include "platform/osversion.h"
+#include "platform/termination.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QIcon>
+#include <QLocale>
+#include <QScreen>
 #include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
@@ -77,8 +81,17 @@ void Application::init()
     addLibraryPath(applicationDirPath() + "/plugins"_L1);
     applyLook();
     createMainWindow();
-    presentMainWindow();
+    welcome();
+    mainWindow->initialize();
+    mainWindow->restoreWindowSettings();
+    if (!ended)
+        presentMainWindow();
     initialized = true;
+}
+
+int Application::run()
+{
+    return ended ? 0 : exec();
 }
 
 void Application::setValidationPatterns()
@@ -109,8 +122,33 @@ void Application::createMainWindow()
         flags |= Qt::WindowStaysOnTopHint;
     mainWindow = new MainWindow(flags);
     mainWindow->setWindowTitle(applicationName());
-    mainWindow->initialize();
-    mainWindow->restoreWindowSettings();
+    // With the window in the tray, the last visible window may be a box: closing that ends nothing.
+    setQuitOnLastWindowClosed(false);
+    mainWindow->closed = [this] {
+        ended = true;
+        exit(0);
+    };
+    onTerminationRequest(this, [this] { terminate(); });
+}
+
+void Application::terminate()
+{
+    // During the first start there is nothing to close: the dialog ends with its event loop.
+    if (initialized)
+        mainWindow->closeQuietly();
+    ended = true;
+    exit(0);
+}
+
+void Application::welcome()
+{
+    SettingsStore *settings = SettingsStore::instance();
+    if (!settings->value(SettingKey::MiscIsFirstStart, true).toBool())
+        return;
+    settings->setValue(SettingKey::MiscLanguage, QLocale::system().name());
+    if (screens().size() == 1)
+        mainWindow->move(primaryScreen()->geometry().center() - mainWindow->rect().center());
+    DialogStart(mainWindow, Qt::CustomizeWindowHint | Qt::WindowStaysOnTopHint).exec();
 }
 
 void Application::presentMainWindow()

@@ -108,6 +108,9 @@ void AppLog::setSaveToFile(bool save)
 
 void AppLog::close()
 {
+    // Flushing a file that was never opened sends a warning, which would come back here through the handler.
+    if (!file.isOpen())
+        return;
     file.flush();
     file.close();
 }

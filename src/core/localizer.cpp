@@ -74,7 +74,8 @@ void Localizer::setLanguage(const QString &code)
     if (code == "en_EN"_L1)
         return;
     const LanguageEntry *entry = find(code);
-    if (entry && translator.load(u"%1/%2"_s.arg(localeDirectory, entry->fileName)))
+    // Without delimiters and suffix: left alone, the translator takes files of longer or shorter names too.
+    if (entry && translator.load(u"%1/%2"_s.arg(localeDirectory, entry->fileName), {}, u""_s, u""_s))
         QCoreApplication::installTranslator(&translator);
 }
 

@@ -135,13 +135,14 @@ void SettingsStore::save()
     root.setAttribute(u"version"_s, QCoreApplication::applicationVersion());
     QSaveFile file(filePath);
     file.setDirectWriteFallback(true);
-    if (!file.open(QIODevice::WriteOnly)) {
-        qDebug() << "could not save: " << filePath;
+    // Without a name QSaveFile would open a file with a name of its own.
+    if (filePath.isEmpty() || !file.open(QIODevice::WriteOnly)) {
+        qDebug().nospace() << "could not save: " << filePath;
         return;
     }
     const QByteArray xml = document.toByteArray(indent);
     if (file.write(xml) < xml.size() || !file.commit())
-        qDebug() << "could not save all data in: " << filePath;
+        qDebug().nospace() << "could not save all data in: " << filePath;
 }
 
 void SettingsStore::setValue(SettingKey key, const QVariant &value, const QString &id)

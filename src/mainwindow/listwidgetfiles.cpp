@@ -3,6 +3,8 @@
 
 #include "mainwindow/listwidgetfiles.h"
 
+#include "mainwindow/fileitemdelegate.h"
+
 #include <QDragEnterEvent>
 #include <QMimeData>
 
@@ -13,14 +15,19 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A layout that took t is followed by none for this many times t.
+// A layout that took t is followed by none for this many times t, and never by one within the shortest pause:
+// after each the rows are painted, too.
 constexpr int layoutPause = 20;
+constexpr qint64 shortestPause = 40'000'000; // nanoseconds
 
 } // namespace
 
 ListWidgetFiles::ListWidgetFiles(QWidget *parent)
     : QListWidget(parent)
+    , delegate(new FileItemDelegate(this))
 {
+    setItemDelegate(delegate);
+    setUniformItemSizes(true);
     setDragEnabled(true);
     setAcceptDrops(true);
     setDropIndicatorShown(true);
@@ -47,28 +54,31 @@ QString ListWidgetFiles::path(int row) const
 
 void ListWidgetFiles::removeSelected()
 {
-    const QModelIndexList selected = selectionModel()->selectedRows();
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
     if (selected.isEmpty())
         return;
     QList<bool> doomed(count(), false);
-    int firstDoomed = count();
-    for (const QModelIndex &index : selected) {
+    for (const QModelIndex &index : selected)
         doomed[index.row()] = true;
-        firstDoomed = std::min(firstDoomed, index.row());
+    QList<std::pair<QString, QString>> kept;
+    for (int row = 0; row < count(); ++row) {
+        if (!doomed.at(row))
+            kept.append({paths.at(row), item(row)->text()});
     }
-    // Taking rows out of the middle one by one would move all rows behind them each time, and so would the
-    // list's search for each of those rows later on. Rows are only taken from the end and put back there.
-    selectionModel()->clear();
-    QList<QListWidgetItem *> kept;
-    for (int row = count() - 1; row >= firstDoomed; --row) {
-        QListWidgetItem *item = takeItem(row);
-        if (doomed.at(row))
-            delete item;
-        else
-            kept.append(item);
-    }
-    std::for_each(kept.crbegin(), kept.crend(), [this](QListWidgetItem *item) { addItem(item); });
+    // Each row taken out of the middle would move all rows behind it, and the base class would search for
+    // each of those again when it is changed next.
+    clear();
+    for (const auto &[path, text] : std::as_const(kept))
+        appendRow(path, text);
     showAddedRows();
+}
+
+void ListWidgetFiles::appendRow(const QString &path, const QString &text)
+{
+    delegate->includeWidth(text);
+    auto *item = new QListWidgetItem(text);
+    item->setData(Qt::UserRole, path);
+    addItem(item);
 }
 
 void ListWidgetFiles::showAddedRows()
@@ -80,8 +90,22 @@ void ListWidgetFiles::showAddedRows()
     QListWidget::rowsInserted({}, first, lastAddedRow);
 }
 
+void ListWidgetFiles::layoutLater()
+{
+    delegate->forgetWidths();
+    layoutRequested = true;
+    scheduleDelayedItemsLayout();
+}
+
+void ListWidgetFiles::setRowText(int row, const QString &text)
+{
+    delegate->includeWidth(text);
+    item(row)->setText(text);
+}
+
 void ListWidgetFiles::doItemsLayout()
 {
+    layoutRequested = false;
     sinceLayout.start();
     QListWidget::doItemsLayout();
     layoutCost = sinceLayout.nsecsElapsed();
@@ -92,6 +116,7 @@ void ListWidgetFiles::reset()
 {
     firstAddedRow = -1;
     layoutTimer.stop();
+    delegate->forgetWidths();
     QListWidget::reset();
     mirrorAllRows();
 }
@@ -132,7 +157,11 @@ void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex 
             countPath(paths.at(row));
         }
     }
-    QListWidget::dataChanged(topLeft, bottomRight, roles);
+    // The base class asks for a layout and paints the row. A path alone changes nothing that is shown, and
+    // rows that wait for a layout get one anyway.
+    const bool waiting = layoutRequested || (firstAddedRow >= 0 && topLeft.row() >= firstAddedRow);
+    if (!waiting && roles != QList<int>{Qt::UserRole})
+        QListWidget::dataChanged(topLeft, bottomRight, roles);
 }
 
 void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int last)
@@ -152,7 +181,7 @@ void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int las
     if (firstAddedRow < 0)
         firstAddedRow = first;
     lastAddedRow = last;
-    const qint64 pause = layoutPause * layoutCost;
+    const qint64 pause = std::max(shortestPause, layoutPause * layoutCost);
     if (!sinceLayout.isValid() || sinceLayout.nsecsElapsed() >= pause)
         showAddedRows();
     else if (!layoutTimer.isActive())

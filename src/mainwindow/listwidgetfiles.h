@@ -9,6 +9,8 @@
 #include <QMimeData>
 #include <QTimer>
 
+class FileItemDelegate;
+
 /// The list of files. A row's Qt::UserRole data is the file's full path.
 /// Made for a hundred thousand rows that come one at a time: a mirror of the paths answers containsPath() at
 /// once, and the layout, which walks all rows, is held back so that it takes a twentieth of the time at most.
@@ -24,13 +26,17 @@ public:
     /// The Qt::UserRole data of a row, 0 to count() - 1.
     [[nodiscard]] QString path(int row) const;
 
+    void appendRow(const QString &path, const QString &text = {});
     /// Deletes every selected row, at constant cost for each row of the list.
     void removeSelected();
     /// Lets rows that were added since the last layout show at once.
     void showAddedRows();
 
-    /// Lays all rows out again in the next pass of the event loop.
-    using QListWidget::scheduleDelayedItemsLayout;
+    /// Lays all rows out again in the next pass of the event loop; to be called before many texts change.
+    void layoutLater();
+
+    /// Sets a row's text.
+    void setRowText(int row, const QString &text);
 
     void doItemsLayout() override;
     void reset() override;
@@ -60,8 +66,10 @@ private:
     QList<QString> paths; ///< by row
     QHash<QString, int> pathCounts;
 
+    FileItemDelegate *delegate;
     QTimer layoutTimer;
     QElapsedTimer sinceLayout;
+    bool layoutRequested = false;
     qint64 layoutCost = 0; ///< of the last layout, in nanoseconds
     int firstAddedRow =
         -1; ///< rows from here to lastAddedRow are not known to the base class yet; -1: all are

@@ -6,12 +6,15 @@
 #include "core/applog.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
+#include "dialogs/dialogsettings.h"
+#include "mainwindow/checkschedule.h"
 #include "platform/shell.h"
 #include "platform/taskbar.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
 #include "ui_mainwindow.h"
+#include "update/versioncheck.h"
 
 #include <QDesktopServices>
 #include <QFileSystemModel>
@@ -71,6 +74,7 @@ void MainWindow::initialize()
     setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
     createTrayIcon();
     createLogo();
+    nameIconButtons();
     taskbarList = TaskbarList::create(winId());
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
@@ -160,7 +164,7 @@ void MainWindow::createLogo()
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     ui->toolBar->addWidget(spacer);
 
-    auto *buttonLogo = new QPushButton;
+    buttonLogo = new QPushButton;
     buttonLogo->setObjectName(u"buttonLogo"_s);
     buttonLogo->setIcon(QIcon(u":/img/logo.png"_s));
     buttonLogo->setIconSize({102, 30});
@@ -183,9 +187,36 @@ void MainWindow::retranslateExplorer()
     fillRuleComboBox();
 }
 
+void MainWindow::nameIconButtons()
+{
+    // For screen readers: what has no text is named by its status tip.
+    const auto buttons = findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->text().isEmpty() && !button->statusTip().isEmpty())
+            button->setAccessibleName(button->statusTip());
+    }
+    const auto actions = ui->toolBar->actions();
+    for (QAction *action : actions) {
+        if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
+            button->setAccessibleName(action->statusTip());
+    }
+    buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));
+}
+
 void MainWindow::onTimeout()
 {
+    static CheckSchedule schedule(logTimerInterval);
     moveLogLinesToTable();
+    if (schedule.isDue())
+        checkForNewVersion();
+}
+
+void MainWindow::checkForNewVersion()
+{
+    if (!SettingsStore::instance()->value(SettingKey::VersionCheckAuto, true).toBool())
+        return;
+    auto *check = new VersionCheck(this); // deletes itself
+    check->check(false);
 }
 
 void MainWindow::moveLogLinesToTable()
@@ -232,12 +263,22 @@ void MainWindow::onClicked(int id)
         // Deliberate: written at once, unlike the check box beside it.
         SettingsStore::instance()->setValue(SettingKey::LogIncludeDebugInfo, ui->checkBoxDebug->isChecked());
         break;
+    case GlobalSettings:
+        editSettings();
+        break;
     case VisitHome:
         QDesktopServices::openUrl(QUrl(Maker::homeUrl()));
         break;
     default:
         break;
     }
+}
+
+void MainWindow::editSettings()
+{
+    DialogSettings dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        dialog.save();
 }
 
 void MainWindow::openLogFolder()
@@ -273,6 +314,8 @@ void MainWindow::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         retranslateExplorer();
         ui->retranslateUi(this);
+        retranslateTrayMenu();
+        nameIconButtons();
         event->accept();
         return;
     }

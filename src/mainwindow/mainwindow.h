@@ -8,9 +8,11 @@
 #include <QMimeData>
 #include <QSystemTrayIcon>
 
+#include <functional>
 #include <memory>
 
 class ProgressDialog;
+class QPushButton;
 class QSignalMapper;
 class QTreeView;
 class Rule;
@@ -57,8 +59,16 @@ public slots:
     void on_comboBoxRules_currentIndexChanged(int index);
 
 public:
+    /// Minimises to the task bar, or into the tray when the settings say so.
     void minimizeWindow();
+    /// To be called after initialize() and before the first show. Leaves the opacity in the settings, in
+    /// range.
     void restoreWindowSettings();
+    /// Closes without the request for support: the system ends the program.
+    void closeQuietly();
+
+    /// Called when the window has been closed: with its icon in the tray it may have been hidden before.
+    std::function<void()> closed;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -79,9 +89,17 @@ private:
     void createLogo();
     void createTrayIcon();
     void retranslateExplorer();
+    void nameIconButtons();
     void openLogFolder();
     void moveLogLinesToTable();
+    void checkForNewVersion();
+    void editSettings();
+
+    void retranslateTrayMenu();
+    void restoreWindowGeometry();
     void saveWindowSettings();
+    void requestSupport();
+    void closeFromAnyState();
 
     void fillRuleComboBox();
     void refreshRuleTree();
@@ -100,8 +118,12 @@ private:
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned
     QTimer *logTimer = nullptr;
-    QSystemTrayIcon *trayIcon = nullptr;
+    QSystemTrayIcon *trayIcon = nullptr; ///< null without a system tray
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     QSignalMapper *commandMapper = nullptr; ///< to onClicked()
+    QPushButton *buttonLogo = nullptr;
+    QAction *actionRestore = nullptr; ///< of the tray's menu
+    QAction *actionQuit = nullptr;    ///< of the tray's menu
+    bool closesQuietly = false;
 };

@@ -10,7 +10,6 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
-#include <QProgressBar>
 #include <QStackedWidget>
 #include <QUrl>
 
@@ -52,7 +51,7 @@ void MainWindow::addPath(const QString &path)
     const qsizetype total = paths.size();
     if (total > 1) {
         dialog->stackedWidget->setCurrentIndex(ProgressDialog::ProgressPage);
-        dialog->progressBar->setValue(0);
+        dialog->showValue(0);
         // Also after a cancelled scan: what was found so far is still added.
         dialog->show();
     }
@@ -62,7 +61,7 @@ void MainWindow::addPath(const QString &path)
         addRow(paths.at(i));
         // Deliberate: the bar stays below 100 after the last file.
         if (total > 1)
-            dialog->progressBar->setValue(static_cast<int>(std::min<qsizetype>(100, i * 100 / total)));
+            dialog->showValue(static_cast<int>(std::min<qsizetype>(100, i * 100 / total)));
         QCoreApplication::processEvents();
         if (dialog && dialog->isHidden())
             break;
@@ -105,9 +104,7 @@ QStringList MainWindow::collectFiles(const QString &folder, std::unique_ptr<Prog
 
 void MainWindow::addRow(const QString &path)
 {
-    auto *item = new QListWidgetItem;
-    item->setData(Qt::UserRole, path);
-    ui->listWidgetFiles->addItem(item);
+    ui->listWidgetFiles->appendRow(path);
     updateFileItem(ui->listWidgetFiles->count() - 1);
 }
 

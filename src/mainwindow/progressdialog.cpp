@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 paintInterval = 40; // milliseconds
+
 QWidget *createPage(QWidget *content)
 {
     auto *page = new QWidget;
@@ -70,6 +72,15 @@ void ProgressDialog::setProgress(int item)
     current = item;
     if (mode != progressMode)
         return;
-    progressBar->setValue(total > 0 ? static_cast<int>(std::min<qint64>(qint64{item} * 100 / total, 100))
-                                    : 0);
+    showValue(total > 0 ? static_cast<int>(std::min<qint64>(qint64{item} * 100 / total, 100)) : 0);
+}
+
+void ProgressDialog::showValue(int percent)
+{
+    // The bar repaints itself at once for each new value, which takes longer than renaming a file.
+    const bool painted = !sincePainted.isValid() || sincePainted.hasExpired(paintInterval);
+    if (painted)
+        sincePainted.start();
+    progressBar->setUpdatesEnabled(painted);
+    progressBar->setValue(percent);
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 
 class QLabel;
 class QProgressBar;
@@ -25,6 +26,8 @@ public:
     /// In progress mode the bar shows current x 100 / total, 100 at most, and 0 while total is 0. In text
     /// mode the item is only remembered.
     void setProgress(int current);
+    /// Sets the bar's value, 0 to 100, and paints it 25 times a second at most.
+    void showValue(int percent);
 
     int mode = 0;
     int current = 0; ///< the item last reported
@@ -33,4 +36,7 @@ public:
     QLabel *labelText;
     QProgressBar *progressBar;
     QStackedWidget *stackedWidget;
+
+private:
+    QElapsedTimer sincePainted;
 };

@@ -3,6 +3,8 @@
 
 #include "platform/filerename.h"
 
+#include "platform/filerename_system.h"
+
 #include <QFile>
 
 namespace {
@@ -19,5 +21,7 @@ public:
 
 bool renameFile(const QString &from, const QString &to)
 {
-    return UncopiedFile(from).rename(to);
+    // QFile knows what is left: a change of case alone where case does not matter, and file systems that
+    // cannot refuse to replace.
+    return renameWithoutReplacing(from, to) || UncopiedFile(from).rename(to);
 }

@@ -12,8 +12,8 @@ namespace {
 class ComTaskbarList final : public TaskbarList
 {
 public:
-    explicit ComTaskbarList(ITaskbarList3 *list)
-        : list(list)
+    explicit ComTaskbarList(ITaskbarList3 *connected)
+        : list(connected)
     {
     }
     ~ComTaskbarList() override { list->Release(); }

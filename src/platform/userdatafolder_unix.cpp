@@ -8,6 +8,5 @@
 
 QString userDataFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return folder.isEmpty() ? folder : QDir(folder).path();
+    return QDir::cleanPath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/mainwindow.h"
+
+#include <QElapsedTimer>
+#include <QString>
+
+#include <functional>
+
+/// Seconds that an action takes.
+inline double secondsOf(const std::function<void()> &action)
+{
+    QElapsedTimer timer;
+    timer.start();
+    action();
+    return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+}
+
+/// A folder with many small-named empty files on the RAM disk, gone with the object.
+class FileTree final
+{
+public:
+    explicit FileTree(int fileCount);
+    ~FileTree();
+    Q_DISABLE_COPY_MOVE(FileTree)
+
+    [[nodiscard]] QString path(int file) const;
+
+    const int count;
+    QString folder;
+};
+
+/// A shown main window, offscreen, with access to what a user reaches.
+class Bench final
+{
+public:
+    Bench();
+
+    /// Adds the rule of a page of the rule editors, with what the editors hold.
+    void addRule(int page);
+    void clearRules();
+    /// Runs the renaming and closes the report. Seconds until the report is there.
+    [[nodiscard]] double rename();
+
+    MainWindow window;
+    ListWidgetFiles *list;
+};

@@ -1,0 +1,250 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+// Prints what the main jobs cost per item, at growing numbers of items. Usage: orvanto_benchmark [most items]
+
+#include "bench.h"
+
+#include "app/look.h"
+#include "rules/ruleinserttext.h"
+#include "rules/rulereplace.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+#include <QUrl>
+
+#include <cstdio>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int filesPerFolder = 1000;
+
+enum RulePage { ReplacePage, TrimPage, ChangeCasePage, InsertTextPage, EnumeratePage };
+
+qint64 residentBytes()
+{
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    return file.readAll().split(' ').at(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+/// What reading the folders takes that a search has to read: the measure for a scan.
+double bareScan(const FileTree &tree)
+{
+    return secondsOf([&] {
+        const QStringList folders = QDir(tree.folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString &folder : folders) {
+            DIR *directory = opendir(QFile::encodeName(tree.folder + u'/' + folder).constData());
+            while (directory && readdir(directory)) {
+            }
+            closedir(directory);
+        }
+    });
+}
+
+/// Renames every file there and back with the system call alone; seconds for one way.
+double bareRename(const FileTree &tree)
+{
+    QList<std::pair<QByteArray, QByteArray>> names;
+    for (int i = 0; i < tree.count; ++i) {
+        const QString path = tree.path(i);
+        const qsizetype slash = path.lastIndexOf(u'/') + 1;
+        names.append(
+            {QFile::encodeName(path), QFile::encodeName(path.left(slash) + "new_"_L1 + path.mid(slash))});
+    }
+    const double seconds = secondsOf([&] {
+        for (const auto &[from, to] : std::as_const(names))
+            renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE);
+    });
+    for (const auto &[from, to] : std::as_const(names))
+        renameat2(AT_FDCWD, to.constData(), AT_FDCWD, from.constData(), RENAME_NOREPLACE);
+    return seconds;
+}
+
+void printRow(const char *job, int count, double seconds)
+{
+    std::printf("%-44s %9d %10.3f %10.2f\n", job, count, seconds, seconds * 1e6 / count);
+    std::fflush(stdout);
+}
+
+void measureAdding(Bench &bench, const FileTree &tree)
+{
+    const qint64 before = residentBytes();
+    const double bare = bareScan(tree);
+    const double scanned = secondsOf([&] { bench.window.addPath(tree.folder); });
+    printRow("read the folders, nothing else", tree.count, bare);
+    printRow("drop a folder: scan and add", tree.count, scanned);
+    const double settled = secondsOf([] { QCoreApplication::processEvents(); });
+    printRow("  the layout after it", tree.count, settled);
+    std::printf("%-44s %9d %21.0f bytes a row\n", "  memory", tree.count,
+                static_cast<double>(residentBytes() - before) / tree.count);
+    printRow("clear the list", tree.count, secondsOf([&] { bench.list->onClear(); }));
+
+    QMimeData mimeData;
+    QList<QUrl> urls;
+    for (int i = 0; i < tree.count; ++i)
+        urls.append(QUrl::fromLocalFile(tree.path(i)));
+    mimeData.setUrls(urls);
+    printRow("drop single files", tree.count, secondsOf([&] { bench.window.onFileListAdded(&mimeData); }));
+    QCoreApplication::processEvents();
+}
+
+void measureEditing(Bench &bench, const FileTree &tree)
+{
+    auto *preview = bench.window.findChild<QPushButton *>(u"buttonPreview"_s);
+    bench.addRule(ReplacePage);
+    bench.addRule(ChangeCasePage);
+    bench.addRule(EnumeratePage);
+    preview->setChecked(true);
+    printRow("refresh the preview, three rules", tree.count,
+             secondsOf([&] { bench.window.on_buttonPreview_clicked(); }));
+    printRow("  the layout after it", tree.count, secondsOf([] { QCoreApplication::processEvents(); }));
+    preview->setChecked(false);
+    bench.window.on_buttonPreview_clicked();
+    QCoreApplication::processEvents();
+    bench.clearRules();
+
+    constexpr int moves = 20;
+    bench.list->setCurrentRow(tree.count / 2);
+    printRow("move a row up, the layout after it, 20 times", moves, secondsOf([&] {
+                 for (int i = 0; i < moves; ++i) {
+                     bench.window.onClickedFileList(2);
+                     QCoreApplication::processEvents();
+                 }
+             }));
+}
+
+void measureRun(Bench &bench, const FileTree &tree)
+{
+    const double bare = bareRename(tree);
+    printRow("renameat2 alone", tree.count, bare);
+    bench.addRule(InsertTextPage);
+    const double run = bench.rename();
+    printRow("the run", tree.count, run);
+    std::printf("%-44s %9d %21.2f times\n", "  beside renameat2 alone", tree.count, run / bare);
+    bench.clearRules();
+}
+
+void measureRemoving(Bench &bench, const FileTree &tree)
+{
+    bench.list->setCurrentRow(0);
+    {
+        // Gone before the measurement: a selection has persistent indexes, which every removal updates.
+        QItemSelection selection;
+        for (int row = 0; row < tree.count; row += 2)
+            selection.append(QItemSelectionRange(bench.list->model()->index(row, 0)));
+        bench.list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
+    printRow("remove every other row", tree.count, secondsOf([&] { bench.window.onClickedFileList(4); }));
+    QCoreApplication::processEvents();
+    bench.list->onClear();
+}
+
+} // namespace
+
+FileTree::FileTree(int fileCount)
+    : count(fileCount)
+{
+    QTemporaryDir directory(u"/dev/shm/orvanto-benchmark-XXXXXX"_s);
+    directory.setAutoRemove(false);
+    folder = directory.path();
+    for (int i = 0; i < count; ++i) {
+        if (i % filesPerFolder == 0)
+            QDir().mkdir(folder + u"/folder%1"_s.arg(i / filesPerFolder, 4, 10, QChar(u'0')));
+        close(open(QFile::encodeName(path(i)).constData(), O_CREAT | O_WRONLY, 0600));
+    }
+}
+
+FileTree::~FileTree()
+{
+    QDir(folder).removeRecursively();
+}
+
+QString FileTree::path(int file) const
+{
+    return folder + u"/folder%1/IMG_%2.JPG"_s.arg(file / filesPerFolder, 4, 10, QChar(u'0'))
+                        .arg(file, 7, 10, QChar(u'0'));
+}
+
+Bench::Bench()
+    : window({})
+    , list(nullptr)
+{
+    window.initialize();
+    window.show();
+    list = window.findChild<ListWidgetFiles *>(u"listWidgetFiles"_s);
+    auto *pages = window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s);
+    auto *replace = qobject_cast<RuleWidgetReplace *>(pages->widget(ReplacePage));
+    replace->lineEditReplaceWhat->setText(u"IMG_(\\d+)"_s);
+    replace->lineEditReplaceWith->setText(u"Holiday \\1"_s);
+    replace->toolButtonRegExp->setChecked(true);
+    auto *insert = qobject_cast<RuleWidgetInsertText *>(pages->widget(InsertTextPage));
+    insert->lineEditText->setText(u"new_"_s);
+}
+
+void Bench::addRule(int page)
+{
+    window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s)->setCurrentIndex(page);
+    window.on_buttonAddRule_clicked();
+}
+
+void Bench::clearRules()
+{
+    window.onClickedRuleList(8);
+}
+
+double Bench::rename()
+{
+    QElapsedTimer timer;
+    double seconds = 0;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &window, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+        box->accept();
+    });
+    closer.start(1);
+    timer.start();
+    window.on_buttonRename_clicked();
+    return seconds;
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    const QTemporaryDir dataDirectory;
+    QDir::setCurrent(dataDirectory.path());
+    const QApplication application(argc, argv);
+    QApplication::setStyle(u"Fusion"_s);
+    applyLook();
+    const int most = argc > 1 ? QByteArray(argv[1]).toInt() : 1000000;
+    std::printf("%-44s %9s %10s %10s\n", "job", "items", "seconds", "us/item");
+    for (int count = std::min(1000, most); count <= most; count *= 10) {
+        const FileTree tree(count);
+        Bench bench;
+        measureAdding(bench, tree);
+        measureEditing(bench, tree);
+        measureRun(bench, tree);
+        measureRemoving(bench, tree);
+    }
+    return 0;
+}

@@ -1,0 +1,28 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+#
+# Orvanto itself and its tests, in build/windows.
+
+buildProgram() {
+    [[ -f $projectDir/CMakeLists.txt ]] || fail "no CMakeLists.txt in $projectDir"
+    [[ -x $qtDir/bin/qt-cmake ]] || fail "no Qt for Windows in $qtDir: run the step qt first"
+    say "Building Orvanto for Windows"
+    qtCmake -S "$projectDir" -B "$buildDir" -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s \
+        -DCMAKE_CROSSCOMPILING_EMULATOR="$windowsDir/wine-run"
+    ninja -C "$buildDir" -j "$jobs"
+    local program
+    program=$(find "$buildDir" -name orvanto.exe -print -quit)
+    [[ -n $program ]] || fail "the build made no orvanto.exe below $buildDir"
+    requireSystemLibraries "$program"
+    printf 'Built %s (%s bytes)\n' "$program" "$(stat -c %s "$program")"
+}
+
+# requireSystemLibraries PROGRAM: fails when the program needs a DLL that Windows does not have, which would
+# show on a user's machine only.
+requireSystemLibraries() {
+    local needed foreign
+    needed=$(x86_64-w64-mingw32-objdump -p "$1" | awk '/DLL Name:/ { print tolower($3) }')
+    [[ -n $needed ]] || fail "cannot read the DLLs that $1 needs"
+    foreign=$(grep -E '^(lib|qt|icu|zlib)' <<< "$needed" || true)
+    [[ -z $foreign ]] || fail "$1 needs DLLs that Windows lacks: ${foreign//$'\n'/ }"
+}

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "update/messagebox.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QPushButton>
+
+QMessageBox *createMessageBox(QWidget *parent, QMessageBox::Icon icon)
+{
+    auto *box = new QMessageBox(parent);
+    box->setWindowTitle(QCoreApplication::applicationName());
+    box->setWindowFlags(box->windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    box->setIcon(icon);
+    return box;
+}
+
+QPushButton *addMessageButton(QMessageBox *box, QMessageBox::StandardButton button, const QString &text,
+                              const QString &iconPath)
+{
+    QPushButton *added = box->addButton(button);
+    added->setText(text);
+    added->setIcon(QIcon(iconPath));
+    added->setIconSize({24, 24});
+    return added;
+}
+
+int execMessageBox(QMessageBox *box)
+{
+    const QPointer<QMessageBox> guard(box);
+    const int result = box->exec();
+    if (!guard)
+        return QMessageBox::NoButton;
+    box->deleteLater();
+    return result;
+}

@@ -1,0 +1,84 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+"""The base class of the end-to-end tests."""
+
+import os
+import pathlib
+import re
+import shutil
+import tempfile
+import unittest
+
+from .desktop import Desktop
+from .mainwindow import MainWindow
+from .program import SETTLED, Program, settings_text
+
+
+# Few folders lie above it and beside it: the explorer has little to read and little that changes meanwhile.
+QUIET_PLACE = pathlib.Path("/var/tmp")
+
+
+class Case(unittest.TestCase):
+    """Gives each test a desktop, a home and a scratch folder, and a screenshot of its last moment."""
+
+    maxDiff = None
+    window_manager = True
+    tray = False
+
+    def setUp(self):
+        self.desktop = Desktop(self.window_manager, self.tray)
+        self.addCleanup(self.desktop.stop)
+        self.addCleanup(self.screenshot, "end")
+        self.folder = self.make_folder(QUIET_PLACE)
+        self.home = self.folder / "home"
+        self.home.mkdir()
+
+    def make_folder(self, place=None):
+        """A temporary folder that is removed after the test."""
+        folder = pathlib.Path(tempfile.mkdtemp(prefix="orvanto-e2e-", dir=place))
+        self.addCleanup(shutil.rmtree, folder)
+        return folder
+
+    def screenshot(self, moment):
+        folder = pathlib.Path(os.environ["ORVANTO_E2E_SCREENSHOTS"])
+        name = re.sub(r"^.*?(test_[^.]*)\.[^.]*\.", r"\1.", self.id())
+        self.desktop.screenshot(folder / f"{name}.{moment}.png")
+
+    def make_files(self, names, folder=None):
+        """Creates files whose content is their name, and returns their folder."""
+        folder = folder or self.folder / "files"
+        for name in names:
+            file = folder / name
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(name, encoding="utf-8")
+        return folder
+
+    def content_by_name(self, folder):
+        """What lies below a folder: each file's content by its path."""
+        return {str(file.relative_to(folder)): file.read_text(encoding="utf-8")
+                for file in folder.rglob("*") if file.is_file()}
+
+    def start(self, text=settings_text(SETTLED), **settings):
+        """Starts the program with settled settings; keywords are written with __ in place of the dot.
+
+        With "text" the settings file is what is given, with None there is none.
+        """
+        self.program = Program(self.desktop, self.home)
+        if settings:
+            text = settings_text({**SETTLED, **{name.replace("__", "."): text for name, text in settings.items()}})
+        if text is not None:
+            self.program.write_settings(text)
+        return self.start_again()
+
+    def start_again(self):
+        """Starts the program with what the last run left."""
+        self.program.start()
+        return MainWindow(self.program)
+
+    def close(self, program=None):
+        """Closes the main window by the window manager; the program must end well and silently."""
+        program = program or self.program
+        program.close()
+        self.assertEqual(program.wait(), 0)
+        self.assertEqual(program.stderr, "")
+        self.assertEqual(program.stdout, "")

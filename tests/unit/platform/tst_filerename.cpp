@@ -1,0 +1,249 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "platform/filerename.h"
+#include "unit/support/testfolder.h"
+
+#include <QFileInfo>
+#include <QTest>
+
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct stat statOf(const QString &path)
+{
+    struct stat result
+    {
+    };
+    if (lstat(QFile::encodeName(path).constData(), &result) != 0)
+        result.st_ino = 0;
+    return result;
+}
+
+} // namespace
+
+class TestFileRename final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { folder = std::make_unique<TestFolder>(); }
+    void cleanup() { folder.reset(); }
+    void movesTheFileItself_data();
+    void movesTheFileItself();
+    void refusesWhatExists_data();
+    void refusesWhatExists();
+    void danglingLinkIsNotWrittenThrough();
+    void vanishedSourceMakesNothing();
+    void refusesBadTargets_data();
+    void refusesBadTargets();
+    void refusesAnEmptySource();
+    void changesOnlyTheCase();
+    void caseChangeRefusesAnotherFile();
+    void caseChangeRefusesASecondNameOfTheSameFile();
+    void linkIsMovedNotItsTarget();
+    void folderIsMoved();
+    void pipeIsMovedWithoutBeingOpened();
+    void neverCopiesAcrossFileSystems();
+
+private:
+    std::unique_ptr<TestFolder> folder;
+};
+
+void TestFileRename::movesTheFileItself_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+
+    QTest::newRow("plain") << u"a.txt"_s << u"b.txt"_s;
+    QTest::newRow("Unicode") << u"Ж日.txt"_s << u"😀 é.txt"_s;
+    QTest::newRow("blanks") << u" a "_s << u"  b  "_s;
+    QTest::newRow("line feed") << u"a\nb"_s << u"b\na"_s;
+    QTest::newRow("looks like an option") << u"-rf"_s << u"--help"_s;
+    QTest::newRow("shell characters") << u"$(a)`*?"_s << u"'\";&|<>\\"_s;
+    QTest::newRow("hidden") << u"a"_s << u".a"_s;
+    QTest::newRow("longest name") << u"a"_s << QString(255, u'b');
+    QTest::newRow("composed and decomposed") << u"\u00e9"_s << u"e\u0301"_s;
+    QTest::newRow("into a folder") << u"a"_s << u"folder/a"_s;
+}
+
+void TestFileRename::movesTheFileItself()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QVERIFY(QDir().mkdir(u"folder"_s));
+    QVERIFY(writeFile(from, "content"));
+    QVERIFY(QFile::setPermissions(from, QFile::ReadOwner));
+    const auto before = statOf(from);
+    QVERIFY(renameFile(folder->path(from), folder->path(to)));
+    QCOMPARE(statOf(from).st_ino, 0U);
+    QCOMPARE(statOf(to).st_ino, before.st_ino);
+    QCOMPARE(statOf(to).st_mode, before.st_mode);
+    QCOMPARE(readFile(to), "content");
+}
+
+void TestFileRename::refusesWhatExists_data()
+{
+    QTest::addColumn<QString>("target");
+
+    QTest::newRow("file") << u"file"_s;
+    QTest::newRow("empty file") << u"empty"_s;
+    QTest::newRow("folder") << u"folder"_s;
+    QTest::newRow("link to a file") << u"link"_s;
+    QTest::newRow("link to nothing") << u"dangling"_s;
+    QTest::newRow("link to itself") << u"loop"_s;
+    QTest::newRow("the file itself") << u"source"_s;
+    QTest::newRow("the file itself, spelled otherwise") << u"./source"_s;
+    QTest::newRow("second name of the file") << u"twin"_s;
+}
+
+void TestFileRename::refusesWhatExists()
+{
+    QFETCH(QString, target);
+    QVERIFY(writeFile(u"source"_s, "source"));
+    QVERIFY(writeFile(u"file"_s, "file"));
+    QVERIFY(writeFile(u"empty"_s, ""));
+    QVERIFY(QDir().mkdir(u"folder"_s));
+    QVERIFY(QFile::link(u"file"_s, u"link"_s));
+    QVERIFY(QFile::link(u"nothing"_s, u"dangling"_s));
+    QVERIFY(QFile::link(u"loop"_s, u"loop"_s));
+    QCOMPARE(::link("source", "twin"), 0);
+    const QStringList before = entriesOf(folder->path());
+    const auto targetBefore = statOf(target);
+
+    QVERIFY(!renameFile(folder->path(u"source"_s), folder->path(target)));
+    QCOMPARE(entriesOf(folder->path()), before);
+    QCOMPARE(statOf(target).st_ino, targetBefore.st_ino);
+    QCOMPARE(readFile(u"source"_s), "source");
+    QCOMPARE(readFile(u"file"_s), "file");
+    QCOMPARE(readFile(u"empty"_s), "");
+}
+
+void TestFileRename::danglingLinkIsNotWrittenThrough()
+{
+    const TestFolder elsewhere;
+    QVERIFY(writeFile(folder->path(u"source"_s), "source"));
+    QVERIFY(QFile::link(elsewhere.path(u"victim"_s), folder->path(u"target"_s)));
+    QVERIFY(!renameFile(folder->path(u"source"_s), folder->path(u"target"_s)));
+    QVERIFY(entriesOf(elsewhere.path()).isEmpty());
+    QVERIFY(QFileInfo(folder->path(u"target"_s)).isSymLink());
+    QCOMPARE(readFile(folder->path(u"source"_s)), "source");
+}
+
+void TestFileRename::vanishedSourceMakesNothing()
+{
+    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path(u"b"_s)));
+    QVERIFY(entriesOf(folder->path()).isEmpty());
+    QVERIFY(writeFile(u"b"_s, "b"));
+    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path(u"b"_s)));
+    QCOMPARE(readFile(u"b"_s), "b");
+}
+
+void TestFileRename::refusesBadTargets_data()
+{
+    QTest::addColumn<QString>("target");
+
+    QTest::newRow("folder that is not there") << u"missing/a"_s;
+    QTest::newRow("file as a folder") << u"other/a"_s;
+    QTest::newRow("too long") << QString(256, u'b');
+    QTest::newRow("too long in bytes") << QString(128, u'é');
+    QTest::newRow("this folder") << u"."_s;
+    QTest::newRow("the folder above") << u".."_s;
+    QTest::newRow("null character") << u"b"_s + QChar(0) + u'c';
+}
+
+void TestFileRename::refusesBadTargets()
+{
+    QFETCH(QString, target);
+    QVERIFY(writeFile(u"a"_s, "a"));
+    QVERIFY(writeFile(u"other"_s, "other"));
+    const MessageCatcher silence;
+    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path() + u'/' + target));
+    QVERIFY(!renameFile(folder->path(u"a"_s), QString()));
+    QCOMPARE(entriesOf(folder->path()), (QStringList{u"a"_s, u"other"_s}));
+    QCOMPARE(readFile(u"a"_s), "a");
+    QCOMPARE(readFile(u"other"_s), "other");
+}
+
+void TestFileRename::refusesAnEmptySource()
+{
+    const MessageCatcher silence;
+    QVERIFY(!renameFile(QString(), folder->path(u"b"_s)));
+    QVERIFY(entriesOf(folder->path()).isEmpty());
+}
+
+void TestFileRename::changesOnlyTheCase()
+{
+    QVERIFY(writeFile(u"photo.jpg"_s, "x"));
+    QVERIFY(renameFile(folder->path(u"photo.jpg"_s), folder->path(u"Photo.JPG"_s)));
+    QCOMPARE(entriesOf(folder->path()), QStringList(u"Photo.JPG"_s));
+}
+
+void TestFileRename::caseChangeRefusesAnotherFile()
+{
+    QVERIFY(writeFile(u"photo"_s, "small"));
+    QVERIFY(writeFile(u"PHOTO"_s, "large"));
+    QVERIFY(!renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)));
+    QCOMPARE(readFile(u"photo"_s), "small");
+    QCOMPARE(readFile(u"PHOTO"_s), "large");
+}
+
+// Two names of one file that differ by case alone: the file system moves nothing there, so a "yes" would be a
+// lie.
+void TestFileRename::caseChangeRefusesASecondNameOfTheSameFile()
+{
+    QVERIFY(writeFile(u"photo"_s, "x"));
+    QCOMPARE(::link("photo", "PHOTO"), 0);
+    QVERIFY(!renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)));
+    QCOMPARE(entriesOf(folder->path()).size(), 2);
+    QVERIFY(QFileInfo::exists(u"photo"_s));
+    QVERIFY(QFileInfo::exists(u"PHOTO"_s));
+}
+
+void TestFileRename::linkIsMovedNotItsTarget()
+{
+    QVERIFY(writeFile(u"target"_s, "x"));
+    QVERIFY(QFile::link(u"target"_s, u"link"_s));
+    QVERIFY(renameFile(folder->path(u"link"_s), folder->path(u"moved"_s)));
+    QCOMPARE(entriesOf(folder->path()), (QStringList{u"moved"_s, u"target"_s}));
+    QVERIFY(QFileInfo(u"moved"_s).isSymLink());
+    QCOMPARE(readFile(u"moved"_s), "x");
+}
+
+void TestFileRename::folderIsMoved()
+{
+    QVERIFY(QDir().mkpath(u"a/b"_s));
+    QVERIFY(renameFile(folder->path(u"a"_s), folder->path(u"c"_s)));
+    QCOMPARE(entriesOf(folder->path()), QStringList(u"c"_s));
+    QCOMPARE(entriesOf(folder->path(u"c"_s)), QStringList(u"b"_s));
+}
+
+void TestFileRename::pipeIsMovedWithoutBeingOpened()
+{
+    QCOMPARE(mkfifo("pipe", 0600), 0);
+    QVERIFY(renameFile(folder->path(u"pipe"_s), folder->path(u"moved"_s)));
+    QVERIFY(S_ISFIFO(statOf(u"moved"_s).st_mode));
+}
+
+void TestFileRename::neverCopiesAcrossFileSystems()
+{
+    const QTemporaryDir memory(u"/dev/shm/orvanto-XXXXXX"_s);
+    QVERIFY(memory.isValid());
+    QVERIFY2(statOf(memory.path()).st_dev != statOf(folder->path()).st_dev,
+             "needs a temporary folder on another file system than /dev/shm");
+    QVERIFY(writeFile(u"a"_s, "content"));
+    const auto before = statOf(u"a"_s);
+    QVERIFY(!renameFile(folder->path(u"a"_s), memory.filePath(u"a"_s)));
+    QVERIFY(entriesOf(memory.path()).isEmpty());
+    QCOMPARE(readFile(u"a"_s), "content");
+    QCOMPARE(statOf(u"a"_s).st_ino, before.st_ino);
+}
+
+QTEST_GUILESS_MAIN(TestFileRename)
+#include "tst_filerename.moc"

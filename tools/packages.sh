@@ -1,0 +1,36 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+#
+# Sourced by run and test: the Debian packages that each needs, and their installation.
+
+build_packages=(
+    cmake g++ ninja-build
+    qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libgl-dev
+)
+run_packages=(fonts-dejavu-core xdg-utils)
+virtual_display_packages=(openbox xvfb)
+test_packages=(
+    at-spi2-core clang-format-14 dbus dbus-bin dbus-daemon fonts-dejavu-core gir1.2-atspi-2.0 imagemagick
+    librsvg2-bin openbox procps python3 python3-gi python3-pyatspi trayer util-linux wmctrl x11-utils
+    x11-xserver-utils xauth xdotool xvfb xdg-utils
+)
+
+# ensure_packages NAME...: installs those that are missing; silent and quick when none is.
+ensure_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    echo "Installing: ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET: configures when needed and builds; says nothing when there is nothing to do.
+build() {
+    cmake --preset "$1" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; return 1; }
+    cmake --build --preset "$1"
+}
