@@ -37,7 +37,7 @@ constexpr int removeFilesId = 4;
 constexpr int removeRuleId = 5;
 
 constexpr int renameButtonWidth = 140; // pixels, at least
-constexpr int logTimerInterval = 250; // milliseconds
+constexpr int logTimerInterval = 250;  // milliseconds
 // Deliberate: the cap is applied after each insertion, so the table holds at most 99 rows.
 constexpr int logRowLimit = 100;
 
