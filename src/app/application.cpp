@@ -13,6 +13,7 @@
 #include "dialogs/dialogstart.h"
 #include "mainwindow/mainwindow.h"
 #include "platform/osversion.h"
+#include "platform/termination.h"
 
 #include <QDebug>
 #include <QDir>
@@ -83,8 +84,14 @@ void Application::init()
     welcome();
     mainWindow->initialize();
     mainWindow->restoreWindowSettings();
-    presentMainWindow();
+    if (!ended)
+        presentMainWindow();
     initialized = true;
+}
+
+int Application::run()
+{
+    return ended ? 0 : exec();
 }
 
 void Application::setValidationPatterns()
@@ -115,6 +122,22 @@ void Application::createMainWindow()
         flags |= Qt::WindowStaysOnTopHint;
     mainWindow = new MainWindow(flags);
     mainWindow->setWindowTitle(applicationName());
+    // With the window in the tray, the last visible window may be a box: closing that ends nothing.
+    setQuitOnLastWindowClosed(false);
+    mainWindow->closed = [this] {
+        ended = true;
+        exit(0);
+    };
+    onTerminationRequest(this, [this] { terminate(); });
+}
+
+void Application::terminate()
+{
+    // During the first start there is nothing to close: the dialog ends with its event loop.
+    if (initialized)
+        mainWindow->closeQuietly();
+    ended = true;
+    exit(0);
 }
 
 void Application::welcome()

@@ -20,6 +20,8 @@ public:
     /// Brings everything up to the visible window. May throw what setupDataDirectory() throws; nothing is
     /// saved then when the object is destroyed.
     void init();
+    /// The event loop's result; 0 at once when the program was asked to end meanwhile.
+    int run();
 
 private:
     void setValidationPatterns();
@@ -27,7 +29,9 @@ private:
     void createMainWindow();
     void welcome();
     void presentMainWindow();
+    void terminate();
 
     MainWindow *mainWindow = nullptr;
     bool initialized = false;
+    bool ended = false;
 };

@@ -6,6 +6,8 @@
 #include "core/maker.h"
 #include "platform/errorbox.h"
 
+#include <QByteArray>
+
 #include <cstdio>
 
 namespace {
@@ -24,7 +26,7 @@ int main(int argc, char **argv)
     try {
         Application application(argc, argv);
         application.init();
-        return QApplication::exec();
+        return application.run();
     } catch (const char *message) {
         char text[1024] = {};
         std::snprintf(text, sizeof(text), "Error Type: %s\n\n%s", message, contactLine().constData());

@@ -8,9 +8,11 @@
 #include <QMimeData>
 #include <QSystemTrayIcon>
 
+#include <functional>
 #include <memory>
 
 class ProgressDialog;
+class QPushButton;
 class QSignalMapper;
 class QTreeView;
 class Rule;
@@ -65,6 +67,9 @@ public:
     /// Closes without the request for support: the system ends the program.
     void closeQuietly();
 
+    /// Called when the window has been closed: with its icon in the tray it may have been hidden before.
+    std::function<void()> closed;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -84,6 +89,7 @@ private:
     void createLogo();
     void createTrayIcon();
     void retranslateExplorer();
+    void adjustToTexts();
     void openLogFolder();
     void moveLogLinesToTable();
     void checkForNewVersion();
@@ -93,6 +99,7 @@ private:
     void restoreWindowGeometry();
     void saveWindowSettings();
     void requestSupport();
+    void closeFromAnyState();
 
     void fillRuleComboBox();
     void refreshRuleTree();
@@ -115,7 +122,8 @@ private:
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     QSignalMapper *commandMapper = nullptr; ///< to onClicked()
-    QAction *actionRestore = nullptr;       ///< of the tray's menu
-    QAction *actionQuit = nullptr;          ///< of the tray's menu
+    QPushButton *buttonLogo = nullptr;
+    QAction *actionRestore = nullptr; ///< of the tray's menu
+    QAction *actionQuit = nullptr;    ///< of the tray's menu
     bool closesQuietly = false;
 };

@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -69,7 +70,7 @@ void MainWindow::createTrayIcon()
     auto *menu = new QMenu(this);
     menu->setWindowFlag(Qt::WindowStaysOnTopHint);
     actionRestore = menu->addAction(QIcon(u":/img/refresh.png"_s), {}, this, &MainWindow::onRestoreWindow);
-    actionQuit = menu->addAction(QIcon(u":/img/cancel.png"_s), {}, this, &QWidget::close);
+    actionQuit = menu->addAction(QIcon(u":/img/cancel.png"_s), {}, this, &MainWindow::closeFromAnyState);
     retranslateTrayMenu();
     trayIcon->setContextMenu(menu);
     connect(trayIcon, &QSystemTrayIcon::activated, this, &MainWindow::onTrayIconActivated);
@@ -113,6 +114,8 @@ void MainWindow::minimizeWindow()
     }
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    if (windowHandle())
+        windowHandle()->destroy();
     trayIcon->show();
     if (!settings->valueByName(trayIconHint, true).toBool())
         return;
@@ -209,6 +212,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
         requestSupport();
     saveWindowSettings();
     event->accept();
+    if (closed)
+        closed();
 }
 
 void MainWindow::requestSupport()
@@ -226,5 +231,12 @@ void MainWindow::requestSupport()
 void MainWindow::closeQuietly()
 {
     closesQuietly = true;
+    closeFromAnyState();
+}
+
+void MainWindow::closeFromAnyState()
+{
+    // Hidden in the tray the window has no native one, and Qt closes nothing then.
+    winId();
     close();
 }

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 maxEntrySize = 64 * 1024;
+constexpr qint64 maxEntrySize = 65536;
 
 QString autoStartFolder()
 {

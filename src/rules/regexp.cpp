@@ -12,10 +12,10 @@ RegExp::RegExp(const QString &pattern)
 
 QString RegExp::replacedIn(const QString &text, const QString &replacement) const
 {
-    return engine->isValid() ? engine->replaceIn(text, replacement) : text;
+    return engine->replaceIn(text, replacement);
 }
 
 QString RegExp::removedFrom(const QString &text) const
 {
-    return engine->isValid() ? engine->removeIn(text) : text;
+    return engine->removeIn(text);
 }

@@ -26,7 +26,7 @@ class VersionCheck final : public QObject
     Q_OBJECT
 
 public:
-    static constexpr qint64 maxReplySize = 64 * 1024;
+    static constexpr qint64 maxReplySize = 65536;
     static constexpr qint64 maxLineLength = 2048;
 
     struct Service

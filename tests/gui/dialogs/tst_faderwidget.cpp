@@ -61,14 +61,16 @@ void TestFaderWidget::isHiddenBeforeItStarts()
 {
     QWidget page;
     page.resize(120, 80);
-    auto *fader = new FaderWidget(&page);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    const QPointer<FaderWidget> fader = new FaderWidget(&page);
     QCOMPARE(fader->size(), QSize(120, 80));
     QCOMPARE(fader->pos(), QPoint(0, 0));
     QVERIFY(fader->testAttribute(Qt::WA_DeleteOnClose));
     QCOMPARE(fader->metaObject()->className(), "FaderWidget");
     QCOMPARE(fader->property("fadeDuration"), QVariant(200));
-    page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QCoreApplication::processEvents();
+    QVERIFY(fader);
     QVERIFY(!fader->isVisible());
 }
 
@@ -180,7 +182,7 @@ void TestFaderWidget::secondFadeReplacesTheFirst()
     pages.show();
     QVERIFY(QTest::qWaitForWindowExposed(&pages));
     pages.setCurrentIndex(1);
-    const QPointer<FaderWidget> first = current;
+    const QPointer<FaderWidget> first(current.data());
     QVERIFY(first);
     QCOMPARE(first->parentWidget(), pages.widget(1));
     QCOMPARE(first->size(), pages.size()); // the page has its size although it was never shown before
@@ -202,7 +204,7 @@ void TestFaderWidget::noPageNoFade()
     FaderWidget::fadeIn(current, nullptr);
     QVERIFY(!current);
     FaderWidget::fadeIn(current, &page);
-    const QPointer<FaderWidget> first = current;
+    const QPointer<FaderWidget> first(current.data());
     FaderWidget::fadeIn(current, nullptr);
     QVERIFY(first->isHidden());
     QTRY_VERIFY(!current);

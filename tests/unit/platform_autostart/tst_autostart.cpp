@@ -150,7 +150,7 @@ void TestAutoStart::readsEntries_data()
     QTest::newRow("without -auto") << "[Desktop Entry]\nExec=\"" +
                                           QCoreApplication::applicationFilePath().toUtf8() + "\"\n"
                                    << false;
-    QTest::newRow("a megabyte") << "[Desktop Entry]\n#" + QByteArray(1024 * 1024, 'x') + "\n" + exec + "\n"
+    QTest::newRow("a megabyte") << "[Desktop Entry]\n#" + QByteArray(1048576, 'x') + "\n" + exec + "\n"
                                 << false;
 }
 

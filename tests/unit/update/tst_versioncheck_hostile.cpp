@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray endlessHead = "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\n";
-constexpr qint64 mebibyte = 1024 * 1024;
+constexpr qint64 mebibyte = 1048576;
 
 /// The most memory that this process has held, in bytes.
 qint64 peakMemory()

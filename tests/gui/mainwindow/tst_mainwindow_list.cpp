@@ -1,0 +1,356 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/listwidgetfiles.h"
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+#include <QScrollBar>
+#include <QTest>
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QListWidgetItem *makeItem(const QString &path)
+{
+    auto *item = new QListWidgetItem(path);
+    item->setData(Qt::UserRole, path);
+    return item;
+}
+
+} // namespace
+
+/// The list widget itself: the mirror of its paths, the removal of many rows, and the layout that is held
+/// back.
+class FileListWidget : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<ListWidgetFiles> list;
+
+    void add(int count) const
+    {
+        for (int i = 0; i < count; ++i)
+            list->addItem(makeItem(u"/p/%1"_s.arg(i)));
+    }
+    [[nodiscard]] QStringList paths() const
+    {
+        QStringList result;
+        for (int row = 0; row < list->count(); ++row)
+            result.append(list->item(row)->data(Qt::UserRole).toString());
+        return result;
+    }
+    /// Compares the list with the rows that it should have, and its mirror with both.
+    void compare(const QStringList &expected, const QStringList &pool) const
+    {
+        QCOMPARE(paths(), expected);
+        for (int row = 0; row < expected.size(); ++row)
+            QCOMPARE(list->path(row), expected.at(row));
+        for (const QString &path : pool)
+            QVERIFY2(list->containsPath(path) == expected.contains(path), qPrintable(path));
+    }
+    /// Whether every row has its place below the one before it.
+    [[nodiscard]] bool everyRowIsLaidOut() const
+    {
+        const QRect first = list->visualItemRect(list->item(0));
+        for (int row = 0; row < list->count(); ++row) {
+            const QRect rect = list->visualItemRect(list->item(row));
+            if (!rect.isValid() || rect.top() != first.top() + row * first.height())
+                return false;
+        }
+        return true;
+    }
+
+private slots:
+    void init()
+    {
+        list = std::make_unique<ListWidgetFiles>();
+        list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list->resize(300, 400);
+        list->show();
+        QVERIFY(QTest::qWaitForWindowExposed(list.get()));
+    }
+    void cleanup() { list.reset(); }
+
+    void emptyListContainsNothing()
+    {
+        QVERIFY(!list->containsPath(u"/p/0"_s));
+        QVERIFY(!list->containsPath({}));
+    }
+
+    void mirrorFollowsEveryChange()
+    {
+        const QStringList pool = {u"/a"_s, u"/b"_s, u"/c"_s, u"/d"_s, u"/A"_s, u"//a"_s, QString()};
+        list->addItem(makeItem(u"/a"_s));
+        list->addItem(makeItem(u"/c"_s));
+        compare({u"/a"_s, u"/c"_s}, pool);
+        list->insertItem(1, makeItem(u"/b"_s));
+        compare({u"/a"_s, u"/b"_s, u"/c"_s}, pool);
+        list->item(1)->setData(Qt::UserRole, u"/d"_s);
+        compare({u"/a"_s, u"/d"_s, u"/c"_s}, pool);
+        // The text is no path.
+        list->item(0)->setText(u"/b"_s);
+        compare({u"/a"_s, u"/d"_s, u"/c"_s}, pool);
+        list->insertItem(0, list->takeItem(2));
+        compare({u"/c"_s, u"/a"_s, u"/d"_s}, pool);
+        delete list->item(1);
+        compare({u"/c"_s, u"/d"_s}, pool);
+        list->insertItems(1, {u"x"_s, u"y"_s});
+        compare({u"/c"_s, QString(), QString(), u"/d"_s}, pool);
+        list->item(1)->setData(Qt::UserRole, u"/d"_s);
+        delete list->takeItem(3);
+        // One of the two rows with this path is left.
+        compare({u"/c"_s, u"/d"_s, QString()}, pool);
+        list->clear();
+        compare({}, pool);
+        list->addItem(makeItem(u"/a"_s));
+        compare({u"/a"_s}, pool);
+    }
+
+    void mirrorFollowsRowsThatMoveWithinTheModel()
+    {
+        const QStringList pool = {u"/p/0"_s, u"/p/1"_s, u"/p/2"_s};
+        add(3);
+        QVERIFY(list->model()->moveRow({}, 0, {}, 3));
+        compare({u"/p/1"_s, u"/p/2"_s, u"/p/0"_s}, pool);
+        list->sortItems();
+        compare(pool, pool);
+        list->sortItems(Qt::DescendingOrder);
+        compare({u"/p/2"_s, u"/p/1"_s, u"/p/0"_s}, pool);
+    }
+
+    void samePathInSeveralRowsIsContainedUntilTheLastGoes()
+    {
+        for (int i = 0; i < 3; ++i)
+            list->addItem(makeItem(u"/same"_s));
+        for (int left = 3; left > 0; --left) {
+            QVERIFY(list->containsPath(u"/same"_s));
+            delete list->takeItem(0);
+        }
+        QVERIFY(!list->containsPath(u"/same"_s));
+    }
+
+    void removeSelectedTakesWhateverIsSelected_data()
+    {
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("percent");
+        QTest::newRow("none") << 3000 << 0;
+        QTest::newRow("few") << 3000 << 1;
+        QTest::newRow("half") << 3000 << 50;
+        QTest::newRow("most") << 3000 << 99;
+        QTest::newRow("all") << 3000 << 100;
+        QTest::newRow("of one row") << 1 << 100;
+    }
+
+    void removeSelectedTakesWhateverIsSelected()
+    {
+        QFETCH(int, rows);
+        QFETCH(int, percent);
+        QRandomGenerator random(static_cast<quint32>(percent));
+        add(rows);
+        const QStringList pool = paths();
+        QStringList expected;
+        QList<QListWidgetItem *> kept;
+        QItemSelection selection;
+        for (int row = 0; row < rows; ++row) {
+            if (random.bounded(100) < percent) {
+                const QModelIndex index = list->model()->index(row, 0);
+                selection.merge(QItemSelection(index, index), QItemSelectionModel::Select);
+            } else {
+                expected.append(pool.at(row));
+                kept.append(list->item(row));
+            }
+        }
+        list->selectionModel()->select(selection, QItemSelectionModel::Select);
+        list->removeSelected();
+        compare(expected, pool.mid(0, 200));
+        // The rows that stay are the same items still.
+        for (int row = 0; row < kept.size(); ++row)
+            QCOMPARE(list->item(row), kept.at(row));
+        QCoreApplication::processEvents();
+        QVERIFY(everyRowIsLaidOut());
+        if (percent > 0)
+            QVERIFY(list->selectedItems().isEmpty());
+    }
+
+    void randomChangesAgreeWithAPlainList()
+    {
+        bool set = false;
+        int seed = qEnvironmentVariableIntValue("ORVANTO_SEED", &set);
+        if (!set)
+            seed = QRandomGenerator::system()->bounded(std::numeric_limits<int>::max());
+        std::fprintf(stderr, "ORVANTO_SEED=%d\n", seed);
+        QRandomGenerator random(static_cast<quint32>(seed));
+        QStringList pool;
+        for (int i = 0; i < 60; ++i)
+            pool.append(u"/r/%1"_s.arg(i));
+        QStringList model;
+        for (int step = 0; step < 4000 && !QTest::currentTestFailed(); ++step) {
+            changeBoth(model, pool, random);
+            if (random.bounded(4) == 0)
+                QCoreApplication::processEvents();
+            if (step % 20 == 0)
+                compare(model, pool);
+        }
+        compare(model, pool);
+        list->showAddedRows();
+        QCoreApplication::processEvents();
+        QVERIFY(everyRowIsLaidOut());
+    }
+
+    void rowsAddedWithEventsProcessedAreAllLaidOutInTheEnd()
+    {
+        for (int i = 0; i < 5000; ++i) {
+            list->addItem(makeItem(u"/p/%1"_s.arg(i)));
+            QCoreApplication::processEvents();
+        }
+        list->showAddedRows();
+        QCoreApplication::processEvents();
+        QVERIFY(everyRowIsLaidOut());
+        const int rowHeight = list->visualItemRect(list->item(0)).height();
+        list->scrollToBottom();
+        const QRect last = list->visualItemRect(list->item(4999));
+        QCOMPARE(last.height(), rowHeight);
+        QVERIFY(list->viewport()->rect().contains(last.center()));
+        QCOMPARE(list->indexAt(last.center()).row(), 4999);
+    }
+
+    void rowsAddedInOneGoShowByThemselves()
+    {
+        add(20);
+        QCoreApplication::processEvents();
+        add(5000);
+        // Nobody asks for a layout: the one that is held back comes in its time.
+        QTRY_VERIFY_WITH_TIMEOUT(list->visualItemRect(list->item(list->count() - 1)).isValid(), 30000);
+        QVERIFY(everyRowIsLaidOut());
+    }
+
+    void rowsAddedRightAfterACostlyLayoutShowByThemselves()
+    {
+        add(5000);
+        list->doItemsLayout();
+        // These come while no layout is due; no other row follows them.
+        add(3);
+        // Twenty times what the layout took, and then the layout.
+        QTRY_VERIFY_WITH_TIMEOUT(list->visualItemRect(list->item(5002)).isValid(), 30000);
+        QVERIFY(everyRowIsLaidOut());
+    }
+
+    void rowsHeldBackCanBeSelectedMovedAndRemoved()
+    {
+        add(5000);
+        QCoreApplication::processEvents();
+        add(300);
+        list->setCurrentRow(5299);
+        list->insertItem(0, list->takeItem(5299));
+        add(300);
+        list->insertItem(10, makeItem(u"/middle"_s));
+        add(5);
+        delete list->takeItem(5400);
+        list->item(5500)->setText(u"another text"_s);
+        list->selectAll();
+        QCOMPARE(list->selectedItems().size(), list->count());
+        QCoreApplication::processEvents();
+        list->showAddedRows();
+        QCoreApplication::processEvents();
+        QVERIFY(everyRowIsLaidOut());
+        add(300);
+        list->clear();
+        QCoreApplication::processEvents();
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(list->verticalScrollBar()->maximum(), 0);
+    }
+
+    void clearingWhileRowsAreHeldBackStartsAfresh()
+    {
+        add(5000);
+        QCoreApplication::processEvents();
+        add(100);
+        list->clear();
+        add(3);
+        list->showAddedRows();
+        QCoreApplication::processEvents();
+        QCOMPARE(list->count(), 3);
+        QVERIFY(everyRowIsLaidOut());
+    }
+
+private:
+    void changeBoth(QStringList &model, const QStringList &pool, QRandomGenerator &random) const
+    {
+        const auto size = static_cast<int>(model.size());
+        const QString path = pool.at(random.bounded(static_cast<int>(pool.size())));
+        const int row = size > 0 ? random.bounded(size) : 0;
+        switch (const int what = random.bounded(20); what) {
+        case 0:
+        case 1:
+            if (size > 0) {
+                delete list->takeItem(row);
+                model.removeAt(row);
+            }
+            break;
+        case 2:
+            if (size > 0) {
+                list->item(row)->setData(Qt::UserRole, path);
+                model[row] = path;
+            }
+            break;
+        case 3:
+            if (size > 0) {
+                const int to = random.bounded(size);
+                list->insertItem(to, list->takeItem(row));
+                model.move(row, to);
+            }
+            break;
+        case 4:
+            removeSome(model, random);
+            break;
+        case 5:
+            if (random.bounded(20) == 0) {
+                list->clear();
+                model.clear();
+            }
+            break;
+        case 6:
+            list->showAddedRows();
+            break;
+        case 7:
+            if (size > 0)
+                list->setCurrentRow(row);
+            break;
+        case 8:
+        case 9:
+        case 10:
+            list->insertItem(row, makeItem(path));
+            model.insert(row, path);
+            break;
+        default:
+            list->addItem(makeItem(path));
+            model.append(path);
+            break;
+        }
+    }
+
+    void removeSome(QStringList &model, QRandomGenerator &random) const
+    {
+        list->clearSelection();
+        QStringList left;
+        for (int row = 0; row < model.size(); ++row) {
+            if (random.bounded(5) == 0)
+                list->item(row)->setSelected(true);
+            else
+                left.append(model.at(row));
+        }
+        list->removeSelected();
+        model = left;
+    }
+};
+
+QTEST_MAIN(FileListWidget)
+#include "tst_mainwindow_list.moc"

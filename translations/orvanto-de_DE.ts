@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Diese Meldung nicht mehr anzeigen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Globale Einstellungen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Erweiterungen</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Spenden</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Erfordert einen Registrierungseintrag</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Beim Systemstart laden</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Minimiert starten</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Startbild nicht anzeigen</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Fensteraufteilung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Fenstergröße und -position wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>In den Infobereich minimieren</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Automatisch nach neuer Version suchen</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Jetzt suchen</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plugins</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Übersetzung: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Dieses Projekt unterstützen</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Dieses Programm ist Freeware und wird immer kostenlos bleiben. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Mit einem kleinen Beitrag helfen Sie uns, unsere Produkte zu entwickeln, zu verbessern und zu pflegen.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Programmordner</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Datenordner des Programms</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Unsere Website besuchen</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Rückmeldung senden</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Entwickelt von Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Der Befehl wurde erfolgreich ausgeführt.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Der Befehl konnte nicht ausgeführt werden.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Stellen Sie sicher, dass Sie über Administratorrechte verfügen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Automatisch nach neuen Versionen suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Wir danken Ihnen für Ihr Vertrauen und wünschen Ihnen viel Freude mit diesem Programm.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Entdecken Sie weitere Produkte von uns:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Wir suchen Muttersprachler als Übersetzer.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Bitte kontaktieren Sie uns unter: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Aktive Regeln</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Dateiliste</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Namensfilter</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Vollständigen Pfad anzeigen</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Programmprotokoll</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Protokolle speichern</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Debug-Meldungen einbeziehen</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Protokollordner öffnen</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Globale Einstellungen</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Datei-Explorer</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Bitte warten</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Dateien werden erfasst</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Umbenennen der Dateien gestartet</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Umbenennen fehlgeschlagen für Datei</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Verarbeitet</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Bitte unterstützen Sie uns, wenn Ihnen dieses Programm gefällt und es unser Angebot weiterhin geben soll.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Vielen Dank!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Das Programm wurde minimiert.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Klicken Sie zum Anzeigen auf das Symbol im Infobereich.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Immer im Vordergrund</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Zeitüberschreitung bei einer Socket-Operation</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Alles au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Er&amp;höhen</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Verringern</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Abdocken</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Löst das Andockfenster oder dockt es wieder an</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Schließt das Andockfenster</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Verbindung verweigert</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Verbindung beendet</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Host %1 nicht gefunden</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Host nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Netzwerk nicht erreichbar</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorieren</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierher scrollen</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oberer Rand</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unterer Rand</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Seite nach links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Seite nach rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Nach links scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Nach oben scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Nach rechts scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Nach unten scrollen</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Linkadresse kopieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Groß-/Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Kleinbuchstaben</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Jedes Wort groß beginnen</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Dateiendung ignorieren</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Nummerieren</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Startnummer</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Führende Nullen</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Text einfügen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Suchen nach</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Kürzen</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Fehler bei der Datenübertragung</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Versionsprüfung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Fehler bei der Verbindung zum Server.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Bitte prüfen Sie selbst unter:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Eine neue Version ist verfügbar!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Möchten Sie sie jetzt herunterladen?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Herunterladen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Was ist neu?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Version überspringen</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Sie verwenden die neueste Version.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+</TS>

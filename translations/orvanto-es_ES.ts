@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>No volver a mostrar este mensaje.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Aviso</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Configuración general</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Extensiones</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Donar</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Requiere una entrada en el registro</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Cargar al iniciar el sistema</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Minimizar al iniciar</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Desactivar la pantalla de presentación</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Restaurar la disposición de la ventana</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Restaurar el tamaño y la posición de la ventana</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Minimizar en el área de notificación</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Buscar nuevas versiones automáticamente</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Buscar ahora</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Complementos</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Traducción: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Apoyar este proyecto</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Esta aplicación es gratuita y siempre lo será. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Con una pequeña contribución nos puede ayudar a desarrollar, mejorar y mantener nuestros productos.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Carpeta de la aplicación</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Carpeta de datos de la aplicación</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Visitar nuestro sitio web</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Desarrollado por Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>El comando se ha completado correctamente.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>No se ha podido ejecutar el comando.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Compruebe que dispone de permisos de administrador.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Buscar nuevas versiones automáticamente</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Siguiente</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Gracias por su confianza. Esperamos que disfrute de este programa.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Descubra más productos nuestros:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Buscamos traductores nativos.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Póngase en contacto con nosotros en: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Reglas</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Reglas activas</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regla</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propiedades</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Vaciar la lista</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Lista de archivos</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Filtro de nombres</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renombrar</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Mostrar la ruta completa</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Registro de la aplicación</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Guardar los registros</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Incluir mensajes de depuración</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Depuración</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Abrir la carpeta de registros</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Configuración general</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Explorador de archivos</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Espere, por favor</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Recopilando archivos</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Se ha empezado a renombrar los archivos</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>No se ha podido renombrar el archivo</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Procesados</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fallidos</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Apóyenos si le gusta este programa y desea que nuestro servicio siga adelante.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>¡Gracias!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>La aplicación se ha minimizado.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Haga clic en el icono del área de notificación para mostrarla.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Siempre visible</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Tiempo de espera agotado en una operación de socket</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Dis&amp;minuir</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Desacoplar</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Desacopla el panel o lo vuelve a acoplar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Cierra el panel</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Conexión rechazada</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Conexión cerrada</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>No se ha encontrado el servidor %1</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Servidor inaccesible</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Red inaccesible</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Principio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página arriba</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abajo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar la dirección del &amp;enlace</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Mayúsculas/minúsculas</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Mayúsculas</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Minúsculas</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Primera letra de cada palabra en mayúscula</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ignorar la extensión del archivo</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Numerar</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Número inicial</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Ceros a la izquierda</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Insertar texto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Reemplazar por</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Expresión regular</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Recortar</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longitud</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Error en la transmisión de datos</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Error al comprobar la versión</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Error al conectar con el servidor.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Compruébelo manualmente en:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>¡Hay una nueva versión disponible!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>¿Desea descargarla ahora?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Descargar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>¿Qué hay de nuevo?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Omitir esta versión</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Está utilizando la última versión.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Ne plus afficher ce message.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Information</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Paramètres généraux</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Extensions</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Faire un don</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Nécessite une entrée dans le registre</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Lancer au démarrage du système</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Réduire au démarrage</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Désactiver l’écran de démarrage</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Restaurer la disposition de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Restaurer la taille et la position de la fenêtre</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Réduire dans la zone de notification</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Rechercher automatiquement une nouvelle version</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Greffons</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Traduction&#xa0;: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Soutenir ce projet</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Cette application est gratuite et le restera toujours. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Par une petite contribution, vous pouvez nous aider à développer, à améliorer et à maintenir nos produits.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Dossier de l’application</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Dossier des données de l’application</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Visiter notre site web</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Nous envoyer vos commentaires</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Réalisé par Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>La commande s’est terminée correctement.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>La commande n’a pas pu être exécutée.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Assurez-vous de disposer des droits d’administrateur.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Rechercher automatiquement les nouvelles versions</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Nous vous remercions de votre confiance et espérons que ce logiciel vous plaira.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Découvrez nos autres produits&#xa0;:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Nous recherchons des traducteurs travaillant vers leur langue maternelle.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Veuillez nous contacter à l’adresse&#xa0;: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Règles</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Règles actives</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Règle</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Vider la liste</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Liste des fichiers</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Filtre de noms</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Afficher le chemin complet</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Journal de l’application</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Enregistrer les journaux</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Inclure les messages de débogage</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Débogage</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Ouvrir le dossier des journaux</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Paramètres généraux</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Explorateur de fichiers</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Veuillez patienter</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Ajout des fichiers</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Début du renommage des fichiers</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Impossible de renommer le fichier</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Traités</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échecs</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Soutenez-nous si ce logiciel vous plaît et si vous souhaitez que notre service perdure.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Merci&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>L’application a été réduite.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Cliquez sur l’icône de la zone de notification pour l’afficher.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Toujours au premier plan</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Délai d’une opération de socket dépassé</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>A&amp;ugmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Détacher</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Détache ou rattache le panneau</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Ferme le panneau</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Connexion refusée</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Connexion fermée</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Hôte %1 introuvable</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Couper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Co&amp;pier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Hôte inaccessible</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Réseau inaccessible</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorer</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Faire défiler jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bord droit</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page vers la gauche</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page vers le haut</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page vers la droite</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page vers le bas</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Défiler vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Défiler vers la droite</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copier l’adresse du &amp;lien</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Changer la casse</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Majuscules</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Minuscules</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Majuscule au début de chaque mot</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ignorer l’extension du fichier</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Numéroter</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Numéro de départ</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Zéros en tête</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Insérer du texte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Remplacer par</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Expression régulière</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Raccourcir</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurer</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Échec de la transmission des données</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Échec de la vérification de version</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Erreur de connexion au serveur.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Veuillez vérifier vous-même à l’adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Une nouvelle version est disponible&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Voulez-vous la télécharger maintenant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Télécharger</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Quoi de neuf&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Vous utilisez la dernière version.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Non mostrare più questo messaggio.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Avviso</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Impostazioni generali</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Estensioni</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Dona</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Informazioni</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Richiede una voce nel registro di sistema</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Carica all’avvio del sistema</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Riduci a icona all’avvio</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Disattiva la schermata iniziale</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Ripristina la disposizione della finestra</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Ripristina dimensioni e posizione della finestra</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Riduci nell’area di notifica</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Cerca automaticamente nuove versioni</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Cerca ora</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plugin</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Paese</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Traduzione: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Sostieni questo progetto</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Questa applicazione è gratuita e lo resterà per sempre. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Con un piccolo contributo è possibile aiutarci a sviluppare, migliorare e mantenere i nostri prodotti.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Cartella dell’applicazione</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Cartella dei dati dell’applicazione</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Visita il nostro sito web</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Invia un commento</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Realizzato da Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Il comando è stato completato correttamente.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Impossibile eseguire il comando.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Assicurarsi di disporre dei diritti di amministratore.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Paese</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Cerca automaticamente nuove versioni</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Avanti</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Grazie per la fiducia. Ci auguriamo che questo programma sia di gradimento.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Altri nostri prodotti:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Cerchiamo traduttori madrelingua.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Per contattarci: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Regole</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Regole attive</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regola</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Proprietà</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Svuota l’elenco</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Elenco dei file</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Filtro dei nomi</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Mostra il percorso completo</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Log dell’applicazione</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Messaggio</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Salva i log</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Includi i messaggi di debug</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Apri la cartella dei log</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Impostazioni generali</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Esplora file</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Attendere</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Acquisizione dei file</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Rinomina dei file avviata</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Impossibile rinominare il file</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Totale</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Elaborati</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Non riusciti</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Resoconto</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Se il programma è gradito e si desidera che il nostro servizio continui, un piccolo sostegno è benvenuto.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Grazie!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>L’applicazione è stata ridotta a icona.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Fare clic sull’icona nell’area di notifica per mostrarla.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacità</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Sempre in primo piano</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Sposta giù</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Tempo scaduto per un’operazione del socket</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>A&amp;umenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Sgancia</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Sgancia o riaggancia il pannello</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Chiude il pannello</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Connessione rifiutata</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Connessione chiusa</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Host %1 non trovato</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Host non raggiungibile</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Rete non raggiungibile</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignora</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scorri fin qui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bordo sinistro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bordo destro</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Pagina a sinistra</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina su</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Pagina a destra</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina giù</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scorri a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scorri in alto</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scorri a destra</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scorri in basso</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copia l’indirizzo del &amp;link</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Direzione</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Maiuscole/minuscole</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Lettere maiuscole</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Lettere minuscole</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Iniziale maiuscola per ogni parola</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ignora l’estensione del file</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Numera</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Numero iniziale</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posizione</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Zeri iniziali</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Inserisci testo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Sostituisci con</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Espressione regolare</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Accorcia</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lunghezza</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Errore di trasmissione dei dati</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Controllo della versione non riuscito</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Errore di connessione al server.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Verificare manualmente all’indirizzo:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>È disponibile una nuova versione!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Scaricarla ora?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Scarica</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Novità?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Ignora questa versione</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>L’ultima versione è già in uso.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>今後このメッセージを表示しない</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>ヒント</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>グローバル設定</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>全般</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>アドオン</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>寄付</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>レジストリへの登録が必要です</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>システムの起動時に自動的に起動する</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>起動時に最小化する</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>スプラッシュ画面を無効にする</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>ウィンドウのレイアウトを復元する</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>ウィンドウのサイズと位置を復元する</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>トレイアイコンに最小化する</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>新しいバージョンを自動的に確認する</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>今すぐ確認</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>プラグイン</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国/地域</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>翻訳: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>このプロジェクトを支援する</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>このアプリケーションはフリーウェアであり、今後も常に無料です。 </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>少額のご寄付で、製品の開発、改良、保守をご支援いただけます。</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>アプリケーションフォルダー</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>アプリケーションデータフォルダー</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Web サイトを開く</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>フィードバックを送る</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;制作: Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>コマンドは正常に完了しました。</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>コマンドを実行できませんでした。</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>管理者権限があることを確認してください。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国/地域</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>新しいバージョンを自動的に確認する</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>次へ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>このソフトウェアをお選びいただきありがとうございます。お楽しみいただければ幸いです。</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>その他の製品はこちら:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>翻訳先の言語を母語とする翻訳者を募集しています。</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>お問い合わせ先: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>有効なルール</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>プロパティ</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>一覧をクリア</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>ファイル一覧</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>名前フィルター</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>フルパスを表示</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>アプリケーションログ</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>ログを保存</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>デバッグメッセージを含める</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>デバッグ</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>ログフォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>グローバル設定</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>エクスプローラー</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>お待ちください</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>ファイルを取得中</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>ファイル名の変更を開始しました</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>ファイル名を変更できませんでした</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>処理済み</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>レポート</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>このソフトウェアを気に入っていただき、サービスの継続をお望みの場合は、ぜひご支援ください。</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>ありがとうございます!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>アプリケーションを最小化しました。</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>表示するにはトレイアイコンをクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>常に最前面に表示</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>ソケット操作がタイムアウトしました</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>増やす(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>フロート</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>ドックパネルの切り離しと再ドッキングを行います</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>ドックパネルを閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>接続が切断されました</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>ホスト %1 が見つかりません</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>ホストに到達できません</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>ネットワークに到達できません</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>無視</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここまでスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上端</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>下端</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1 ページ左へ</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1 ページ上へ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1 ページ右へ</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1 ページ下へ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>リンクのアドレスをコピー(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>先頭から</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>末尾から</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>大文字/小文字の変更</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>大文字</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>小文字</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>各単語の先頭文字を大文字にする</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>拡張子を無視する</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>連番</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>開始番号</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>先行ゼロ</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>テキストの挿入</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置換</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>検索する文字列</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>置換後の文字列</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>正規表現</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>文字の削除</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>復元(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>データ転送エラー</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>バージョンを確認できませんでした</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>サーバーへの接続中にエラーが発生しました。</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>次のアドレスで手動で確認してください:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>新しいバージョンがあります!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>今すぐダウンロードしますか?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>新機能は?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>このバージョンをスキップ</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>最新バージョンを使用しています。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+</TS>

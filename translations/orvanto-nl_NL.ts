@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nl_NL" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Dit bericht niet meer tonen.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Mededeling</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Algemene instellingen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Algemeen</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Uitbreidingen</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Doneren</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Vereist een vermelding in het register</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Laden bij het opstarten van het systeem</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Minimaliseren bij het starten</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Opstartscherm uitschakelen</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Vensterindeling herstellen</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Venstergrootte en -positie herstellen</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Minimaliseren naar systeemvak</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Automatisch controleren op nieuwe versie</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Nu controleren</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plug-ins</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Vertaling: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Steun dit project</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Dit programma is freeware en blijft altijd gratis. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Met een kleine bijdrage helpt u ons onze producten te ontwikkelen, te verbeteren en te onderhouden.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Programmamap</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Map met programmagegevens</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Onze website bezoeken</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Feedback sturen</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Gemaakt door Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>De opdracht is voltooid.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>De opdracht kon niet worden uitgevoerd.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Zorg dat u beheerdersrechten hebt.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Land</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Automatisch controleren op nieuwe versies</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Volgende</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Wij danken u voor uw vertrouwen en wensen u veel plezier met dit programma.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Ontdek onze andere producten:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Wij zoeken vertalers die naar hun moedertaal vertalen.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Neem contact met ons op via: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Regels</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Toevoegen</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Actieve regels</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regel</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschappen</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Lijst wissen</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Bestandslijst</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Naamfilter</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wissen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Voorvertoning</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Volledig pad tonen</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Programmalogboek</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tijd</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Bericht</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Logboeken opslaan</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Debugberichten opnemen</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debug</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Logboekmap openen</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Algemene instellingen</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Bestandsverkenner</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Even geduld</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Bestanden verzamelen</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Hernoemen van bestanden gestart</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Hernoemen mislukt voor bestand</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Totaal</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Verwerkt</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Steun ons als dit programma u bevalt en u onze dienst in stand wilt houden.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Hartelijk dank!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Het programma is geminimaliseerd.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Klik op het pictogram in het systeemvak om het te tonen.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Dekking</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Altijd op de voorgrond</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Time-out bij een socketbewerking</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles selecteren</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Verhogen</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Ver&amp;lagen</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Losmaken</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Maakt het paneel los of weer vast</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Sluit het paneel</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Verbinding geweigerd</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Verbinding gesloten</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Host %1 niet gevonden</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>On&amp;gedaan maken</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Op&amp;nieuw</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Knippen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opiëren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Plakken</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Host onbereikbaar</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Netwerk onbereikbaar</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Negeren</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Hierheen schuiven</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linkerrand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Bovenrand</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechterrand</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Onderrand</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Pagina naar links</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Pagina omhoog</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Pagina naar rechts</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Pagina omlaag</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Naar links schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Omhoog schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Naar rechts schuiven</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Omlaag schuiven</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opiëren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Linkadres kopiëren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Richting</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Begin</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Einde</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Hoofdlettergebruik</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Hoofdletters</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Kleine letters</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Elk woord met een hoofdletter</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Bestandsextensie negeren</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Nummeren</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Beginnummer</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Positie</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Voorloopnullen</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Tekst invoegen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Zoeken naar</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Vervangen door</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Reguliere expressie</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Inkorten</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Lengte</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Herstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Afsluiten</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Fout bij de gegevensoverdracht</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Versiecontrole mislukt</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Fout bij het verbinden met de server.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Controleer het zelf op:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Er is een nieuwe versie beschikbaar!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Wilt u deze nu downloaden?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Downloaden</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Wat is er nieuw?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Versie overslaan</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>U gebruikt de nieuwste versie.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Nie pokazuj więcej tego komunikatu.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Wskazówka</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Ustawienia globalne</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Ogólne</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Dodatki</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Wersja językowa</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Darowizna</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Informacje</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Wymaga wpisu w rejestrze</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Uruchamiaj przy starcie systemu</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Minimalizuj po uruchomieniu</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Wyłącz ekran powitalny</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Przywracaj układ okna</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Przywracaj rozmiar i położenie okna</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Minimalizuj do ikony w zasobniku</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Automatycznie sprawdzaj dostępność nowej wersji</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Sprawdź teraz</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Wtyczki</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Kraj</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Tłumaczenie: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Wesprzyj ten projekt</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Ten program jest darmowy i zawsze taki pozostanie. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Przekazując niewielki datek, możesz pomóc nam w tworzeniu, ulepszaniu i utrzymywaniu naszych produktów.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Folder programu</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Folder danych programu</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Odwiedź naszą stronę internetową</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Prześlij nam opinię</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Stworzone przez Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Polecenie zostało wykonane pomyślnie.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Nie udało się wykonać polecenia.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Upewnij się, że masz uprawnienia administratora.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Kraj</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Automatycznie sprawdzaj dostępność nowych wersji</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Dalej</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Dziękujemy za zaufanie i mamy nadzieję, że ten program przypadnie Ci do gustu.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Poznaj inne nasze produkty:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Poszukujemy tłumaczy przekładających na swój język ojczysty.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Skontaktuj się z nami pod adresem: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Reguły</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Aktywne reguły</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Reguła</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Właściwości</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Wyczyść listę</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Lista plików</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Filtr nazw</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Wyczyść</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Zmień nazwy</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Pokaż pełną ścieżkę</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Dziennik programu</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Czas</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Komunikat</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Zapisuj dziennik</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisuj</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Uwzględniaj komunikaty debugowania</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Debugowanie</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Otwórz folder dziennika</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Ustawienia globalne</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Eksplorator plików</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Proszę czekać</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Zbieranie plików</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Rozpoczęto zmianę nazw plików</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Nie udało się zmienić nazwy pliku</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Razem</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Przetworzono</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Niepowodzenia</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Raport</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Jeśli podoba Ci się ten program i chcesz, abyśmy mogli działać dalej, wesprzyj nas.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Dziękujemy!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Program został zminimalizowany.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Aby pokazać okno, kliknij ikonę w zasobniku.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Nieprzezroczystość</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Zawsze na wierzchu</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Przenieś w górę</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Przenieś w dół</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Przekroczono limit czasu operacji gniazda</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Krok w &amp;górę</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Krok w &amp;dół</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Odłącz</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Odłącza i ponownie dołącza panel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Zamyka panel</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Połączenie odrzucone</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Połączenie zamknięte</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Nie znaleziono hosta %1</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Cofnij</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ponów</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Wy&amp;tnij</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Wklej</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Host nieosiągalny</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Sieć nieosiągalna</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Tak</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Ponów próbę</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignoruj</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Przewiń tutaj</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Lewa krawędź</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Góra</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Prawa krawędź</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Dół</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Strona w lewo</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Strona w górę</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Strona w prawo</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Strona w dół</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Przewiń w lewo</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Przewiń w górę</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Przewiń w prawo</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Przewiń w dół</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopiuj</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopiuj adres &amp;odnośnika</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Kierunek</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Od początku</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Od końca</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Zmień wielkość liter</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Wielkie litery</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Małe litery</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Każde słowo od wielkiej litery</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ignoruj rozszerzenie pliku</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Ponumeruj</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Numer początkowy</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Zera wiodące</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Wstaw tekst</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Zamień</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Co zamienić</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Na co zamienić</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Wyrażenie regularne</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Przytnij</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Długość</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Przywróć</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Zakończ</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Błąd transmisji danych</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Nie udało się sprawdzić wersji</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Błąd połączenia z serwerem.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Sprawdź ręcznie na stronie:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Dostępna jest nowa wersja!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Czy chcesz ją teraz pobrać?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Pobierz</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Później</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Co nowego?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Pomiń wersję</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Używasz najnowszej wersji.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+</TS>

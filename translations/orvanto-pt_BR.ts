@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Não mostrar esta mensagem novamente.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Aviso</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Configurações gerais</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Geral</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Extensões</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Doar</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Requer uma entrada no registro</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Carregar ao iniciar o sistema</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Minimizar ao iniciar</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Desativar a tela de abertura</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Restaurar a disposição da janela</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Restaurar o tamanho e a posição da janela</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Minimizar para a bandeja do sistema</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Procurar nova versão automaticamente</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Procurar agora</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Plugins</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Tradução: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Apoie este projeto</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Este aplicativo é gratuito e sempre será. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Com uma pequena contribuição, você pode nos ajudar a desenvolver, melhorar e manter nossos produtos.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Pasta do aplicativo</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Pasta de dados do aplicativo</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Visitar nosso site</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Enviar comentários</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Desenvolvido por Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>O comando foi concluído com sucesso.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Não foi possível executar o comando.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Verifique se você tem direitos de administrador.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>País</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Procurar novas versões automaticamente</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Avançar</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Agradecemos a sua confiança e esperamos que você goste deste programa.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Conheça nossos outros produtos:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Procuramos tradutores nativos.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Entre em contato conosco em: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Regras</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Regras ativas</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Regra</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriedades</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Limpar a lista</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Lista de arquivos</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Filtro de nomes</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Pré-visualizar</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Mostrar o caminho completo</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Log do aplicativo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensagem</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Salvar os logs</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Incluir mensagens de depuração</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Depuração</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Abrir a pasta de logs</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Configurações gerais</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Explorador de arquivos</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Aguarde</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Obtendo arquivos</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Renomeação de arquivos iniciada</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Não foi possível renomear o arquivo</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Processados</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falhas</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Relatório</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Apoie-nos se você gosta deste programa e quer manter nosso serviço no ar.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Obrigado!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>O aplicativo foi minimizado.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Clique no ícone da bandeja para mostrá-lo.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacidade</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Sempre visível</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Mover para baixo</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Tempo esgotado em uma operação de socket</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Di&amp;minuir</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Desencaixar</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Desencaixa ou reencaixa o painel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Fecha o painel</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Conexão recusada</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Conexão encerrada</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Servidor %1 não encontrado</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Recor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Servidor inacessível</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Rede inacessível</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sim</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ignorar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Rolar até aqui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borda esquerda</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borda direita</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Página à esquerda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Página acima</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Página à direita</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Página abaixo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Rolar para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Rolar para cima</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Rolar para a direita</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Rolar para baixo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar o endereço do &amp;link</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Direção</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Maiúsculas/minúsculas</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Letras maiúsculas</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Letras minúsculas</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Primeira letra de cada palavra em maiúscula</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ignorar a extensão do arquivo</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Numerar</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Número inicial</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Zeros à esquerda</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Inserir texto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Localizar</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Substituir por</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Expressão regular</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Encurtar</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Comprimento</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Restaurar</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Sair</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Falha na transmissão de dados</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Falha ao verificar a versão</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Erro ao conectar ao servidor.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Verifique manualmente em:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Há uma nova versão disponível!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Deseja baixá-la agora?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Baixar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>O que há de novo?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Ignorar esta versão</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Você está usando a versão mais recente.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Больше не показывать это сообщение.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Совет</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Глобальные настройки</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Дополнения</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Локализация</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Пожертвовать</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Информация</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Требуется запись в реестре</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Запускать вместе с системой</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Сворачивать при запуске</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Отключить заставку при запуске</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Восстанавливать компоновку окна</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Восстанавливать размер и положение окна</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Сворачивать в трей</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Автоматически проверять наличие новой версии</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Проверить сейчас</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Плагины</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Страна</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Перевод: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Поддержите этот проект</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Эта программа бесплатна и всегда останется бесплатной. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Сделав небольшое пожертвование, вы поможете нам разрабатывать, обновлять и поддерживать наши продукты.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Папка программы</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Папка данных программы</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Посетить наш сайт</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Отправить нам отзыв</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Разработано Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Команда успешно выполнена.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Не удалось выполнить команду.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Убедитесь, что у вас есть права администратора.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Страна</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Автоматически проверять наличие новых версий</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далее</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Благодарим вас за доверие и надеемся, что эта программа вам понравится.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Познакомьтесь с другими нашими продуктами:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Мы ищем переводчиков — носителей языка.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Свяжитесь с нами по адресу: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Активные правила</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Правило</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Свойства</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Очистить список</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Список файлов</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Фильтр имён</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Показывать полный путь</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Журнал программы</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Сохранять журнал</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранять</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Включать отладочные сообщения</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Отладка</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Открыть папку журнала</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Глобальные настройки</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Проводник</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Пожалуйста, подождите</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Сбор файлов</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Начато переименование файлов</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Не удалось переименовать файл</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Всего</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Обработано</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Не удалось</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Отчёт</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Если вам нравится эта программа и вы хотите, чтобы наш сервис продолжал работать, поддержите нас.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Спасибо!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Программа свёрнута.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Чтобы показать окно, щёлкните значок в трее.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Непрозрачность</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Поверх всех окон</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Переместить вверх</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Переместить вниз</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Истекло время ожидания операции с сокетом</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Вы&amp;делить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Увеличить</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>У&amp;меньшить</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Открепить</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Открепляет и снова закрепляет панель</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Закрывает панель</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Соединение отклонено</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Соединение закрыто</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Узел %1 не найден</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Вст&amp;авить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Узел недоступен</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Сеть недоступна</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Игнорировать</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Прокрутить сюда</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Левый край</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>В начало</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Правый край</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>В конец</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>На страницу влево</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>На страницу вверх</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>На страницу вправо</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>На страницу вниз</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Прокрутить влево</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Прокрутить вверх</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Прокрутить вправо</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Прокрутить вниз</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Копировать адрес &amp;ссылки</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Направление</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>С начала</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>С конца</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Изменить регистр</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Прописные буквы</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Строчные буквы</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Каждое слово с прописной буквы</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Игнорировать расширение файла</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Пронумеровать</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Начальный номер</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Позиция</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Ведущие нули</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Вставить текст</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Что заменить</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>На что заменить</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Регулярное выражение</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Обрезать</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Длина</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Восстановить</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>В&amp;ыход</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Ошибка передачи данных</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Не удалось проверить версию</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Ошибка подключения к серверу.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Проверьте вручную по адресу:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Доступна новая версия!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Хотите загрузить её сейчас?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Позже</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Что нового?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Пропустить версию</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Вы используете последнюю версию.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+</TS>

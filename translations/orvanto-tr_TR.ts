@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr_TR" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Bu iletiyi bir daha gösterme.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Öneri</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Genel Ayarlar</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Eklentiler</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Yerelleştirme</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Bağış Yap</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Bilgi</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Kayıt defteri girdisi gerektirir</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Sistem açılışında başlat</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Başlangıçta simge durumuna küçült</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Açılış ekranını devre dışı bırak</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Pencere düzenini geri yükle</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Pencere boyutunu ve konumunu geri yükle</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Sistem tepsisi simgesine küçült</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Şimdi Denetle</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Eklentiler</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Ülke</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Çeviri: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Bu projeyi destekleyin</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Bu uygulama ücretsizdir ve her zaman ücretsiz kalacaktır. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Küçük bir katkıda bulunarak ürünlerimizi geliştirmemize, yenilememize ve sürdürmemize yardımcı olabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Uygulama Dizini</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Uygulama Veri Dizini</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Web sitemizi ziyaret edin</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Bize geri bildirim gönderin</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Kavrondel tarafından geliştirilmiştir&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Komut başarıyla tamamlandı.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Komut yürütülemedi.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Yönetici haklarına sahip olduğunuzdan emin olun.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Ülke</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>İ&amp;leri</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Güveniniz için teşekkür eder, bu yazılımı beğeneceğinizi umarız.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Diğer ürünlerimizi keşfedin:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Ana dilinde çeviri yapacak çevirmenler arıyoruz.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Lütfen bize ulaşın: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Kurallar</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Etkin Kurallar</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Kural</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Özellikler</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Listeyi temizle</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Dosya Listesi</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Ad Süzgeci</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Önizleme</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Yeniden Adlandır</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Tam yolu göster</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Uygulama Günlüğü</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zaman</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>İleti</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Günlükleri kaydet</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Hata ayıklama iletilerini dahil et</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Hata ayıklama</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Günlük dizinini aç</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Genel Ayarlar</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Dosya Gezgini</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Lütfen bekleyin</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Dosyalar alınıyor</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Dosyaları yeniden adlandırma işlemi başladı</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Dosya yeniden adlandırılamadı</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Toplam</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>İşlenen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Başarısız</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Rapor</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Bu yazılımı beğendiyseniz ve hizmetimizin sürmesini istiyorsanız lütfen bizi destekleyin.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Teşekkür ederiz!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Uygulama simge durumuna küçültüldü.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Göstermek için tepsi simgesine tıklayın.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opaklık</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Her Zaman Üstte</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Aşağı taşı</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Soket işlemi zaman aşımına uğradı</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tümünü Seç</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Artır</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>A&amp;zalt</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Yüzdür</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Paneli ayırır ve yeniden yerleştirir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Paneli kapatır</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Bağlantı reddedildi</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>Bağlantı kapatıldı</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>%1 sunucusu bulunamadı</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Geri Al</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Yinele</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Ke&amp;s</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopyala</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Ya&amp;pıştır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü Seç</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Sunucuya ulaşılamıyor</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Ağa ulaşılamıyor</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Evet</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Yeniden Dene</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Yok Say</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Buraya kaydır</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Sol kenar</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>En üst</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Sağ kenar</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>En alt</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Bir sayfa sola</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Bir sayfa yukarı</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Bir sayfa sağa</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Bir sayfa aşağı</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Sola kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Yukarı kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Sağa kaydır</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Aşağı kaydır</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopyala</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>&amp;Bağlantı Adresini Kopyala</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tümünü Seç</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Yön</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Baştan</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Sondan</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Büyük/Küçük Harf Değiştir</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Büyük harfler</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Küçük harfler</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Her sözcüğün ilk harfi büyük</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Dosya Uzantısını Yok Say</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Numaralandır</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Başlangıç Numarası</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Konum</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Baştaki Sıfırlar</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Metin Ekle</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Değiştir</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Aranan metin</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Yeni metin</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Düzenli İfade</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Kırp</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Uzunluk</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Geri Yükle</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Çık</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Veri iletim hatası</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Sürüm denetlenemedi</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Sunucuya bağlanırken hata oluştu.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Lütfen buradan elle denetleyin:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Yeni bir sürüm var!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Şimdi indirmek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>İndir</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Daha Sonra</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Yenilikler neler?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Sürümü Atla</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>En son sürümü kullanıyorsunuz.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="uk_UA" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>Більше не показувати це повідомлення.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Порада</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>Глобальні налаштування</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Загальні</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>Доповнення</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>Локалізація</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>Пожертвувати</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Інформація</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>Потрібен запис у реєстрі</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>Запускати разом із системою</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>Згортати під час запуску</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>Вимкнути заставку під час запуску</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>Відновлювати компонування вікна</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>Відновлювати розмір і розташування вікна</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>Згортати в трей</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>Автоматично перевіряти наявність нової версії</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Перевірити зараз</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>Плагіни</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Мова</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Країна</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>Переклад: Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>Підтримайте цей проєкт</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>Ця програма безкоштовна і завжди такою залишатиметься. </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>Зробивши невеликий внесок, ви допоможете нам розробляти, оновлювати й підтримувати наші продукти.</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>Тека програми</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>Тека даних програми</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>Відвідати наш сайт</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>Надіслати нам відгук</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Розроблено Kavrondel&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Зберегти</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>Команду успішно виконано.</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>Не вдалося виконати команду.</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>Переконайтеся, що ви маєте права адміністратора.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Мова</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>Країна</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>Автоматично перевіряти наявність нових версій</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далі</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>Дякуємо вам за довіру й сподіваємося, що ця програма вам сподобається.</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>Ознайомтеся з іншими нашими продуктами:</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>Ми шукаємо перекладачів — носіїв мови.</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>Зв’яжіться з нами за адресою: </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Додати</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>Активні правила</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Правило</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Властивості</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>Очистити список</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>Список файлів</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>Фільтр назв</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Очистити</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Попередній перегляд</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Перейменувати</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>Показувати повний шлях</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>Журнал програми</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Час</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Повідомлення</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>Зберігати журнал</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Зберігати</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>Включати налагоджувальні повідомлення</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>Налагодження</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>Відкрити теку журналу</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>Глобальні налаштування</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>Провідник файлів</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>Будь ласка, зачекайте</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>Збирання файлів</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>Розпочато перейменування файлів</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>Не вдалося перейменувати файл</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Усього</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>Оброблено</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Не вдалося</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Звіт</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>Якщо вам подобається ця програма і ви хочете, щоб наш сервіс працював і надалі, підтримайте нас.</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>Дякуємо!</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>Програму згорнуто.</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>Щоб показати вікно, клацніть значок у треї.</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Непрозорість</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>Поверх усіх вікон</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Перемістити вгору</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Перемістити вниз</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Час очікування операції із сокетом вичерпано</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>Ви&amp;брати все</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Збільшити</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>З&amp;меншити</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>Відкріпити</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>Відкріплює і знову закріплює панель</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>Закриває панель</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Назва</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>З’єднання відхилено</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>З’єднання закрито</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>Вузол %1 не знайдено</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Скасувати</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторити</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вирізати</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копіювати</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Вст&amp;авити</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Видалити</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Вибрати все</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Вузол недоступний</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Мережа недоступна</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Гаразд</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Так</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Повторити</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Ігнорувати</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Прокрутити сюди</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Лівий край</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>На початок</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Правий край</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>У кінець</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>На сторінку ліворуч</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>На сторінку вгору</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>На сторінку праворуч</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>На сторінку вниз</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Прокрутити ліворуч</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Прокрутити вгору</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Прокрутити праворуч</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Прокрутити вниз</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копіювати</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Копіювати &amp;адресу посилання</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Вибрати все</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>Напрямок</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Від початку</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Від кінця</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>Змінити регістр</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>Великі літери</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>Малі літери</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>Кожне слово з великої літери</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>Ігнорувати розширення файлу</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>Пронумерувати</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>Початковий номер</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Позиція</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>Нулі на початку</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>Вставити текст</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Замінити</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>Що замінити</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>Чим замінити</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Регулярний вираз</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Обрізати</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Довжина</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Відновити</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Ви&amp;йти</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>Помилка передавання даних</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>Не вдалося перевірити версію</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>Помилка з’єднання із сервером.</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>Перевірте вручну за адресою:</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>Доступна нова версія!</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>Бажаєте завантажити її зараз?</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Завантажити</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Пізніше</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>Що нового?</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>Пропустити версію</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>Ви використовуєте найновішу версію.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+</context>
+</TS>

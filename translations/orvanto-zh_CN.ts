@@ -1,0 +1,721 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>DialogNotice</name>
+    <message>
+        <source>Don&apos;t show this message again.</source>
+        <translation>不再显示此消息。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>提示</translation>
+    </message>
+</context>
+<context>
+    <name>DialogSettings</name>
+    <message>
+        <source>Global Settings</source>
+        <translation>全局设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>常规</translation>
+    </message>
+    <message>
+        <source>Add-ons</source>
+        <translation>附加组件</translation>
+    </message>
+    <message>
+        <source>Localisation</source>
+        <translation>本地化</translation>
+    </message>
+    <message>
+        <source>Donate</source>
+        <translation>捐赠</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Requires registry entry</source>
+        <translation>需要写入注册表项</translation>
+    </message>
+    <message>
+        <source>Load on system start-up</source>
+        <translation>系统启动时运行</translation>
+    </message>
+    <message>
+        <source>Minimize on start</source>
+        <translation>启动时最小化</translation>
+    </message>
+    <message>
+        <source>Disable splash screen</source>
+        <translation>禁用启动画面</translation>
+    </message>
+    <message>
+        <source>Restore window layout</source>
+        <translation>恢复窗口布局</translation>
+    </message>
+    <message>
+        <source>Restore window geometry</source>
+        <translation>恢复窗口大小和位置</translation>
+    </message>
+    <message>
+        <source>Minimize to tray icon</source>
+        <translation>最小化到托盘图标</translation>
+    </message>
+    <message>
+        <source>Automatically check for new version</source>
+        <translation>自动检查新版本</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>立即检查</translation>
+    </message>
+    <message>
+        <source>Plugins</source>
+        <translation>插件</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国家/地区</translation>
+    </message>
+    <message>
+        <source>Translation: Kavrondel</source>
+        <translation>翻译：Kavrondel</translation>
+    </message>
+    <message>
+        <source>Support this project</source>
+        <translation>支持此项目</translation>
+    </message>
+    <message>
+        <source>This application is freeware and will always remain free. </source>
+        <translation>本程序是免费软件，并将永远免费。 </translation>
+    </message>
+    <message>
+        <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
+        <translation>您的小额捐助可以帮助我们开发、升级和维护我们的产品。</translation>
+    </message>
+    <message>
+        <source>Application Directory</source>
+        <translation>应用程序目录</translation>
+    </message>
+    <message>
+        <source>Application Data Directory</source>
+        <translation>应用程序数据目录</translation>
+    </message>
+    <message>
+        <source>Visit our website</source>
+        <translation>访问我们的网站</translation>
+    </message>
+    <message>
+        <source>Send us feedback</source>
+        <translation>向我们发送反馈</translation>
+    </message>
+    <message>
+        <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;由 Kavrondel 制作&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>The command completed successfully.</source>
+        <translation>命令已成功完成。</translation>
+    </message>
+    <message>
+        <source>The command failed to execute.</source>
+        <translation>命令执行失败。</translation>
+    </message>
+    <message>
+        <source>Make sure you have administrator rights.</source>
+        <translation>请确保您具有管理员权限。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>DialogStart</name>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Country</source>
+        <translation>国家/地区</translation>
+    </message>
+    <message>
+        <source>Automatically check for new versions</source>
+        <translation>自动检查新版本</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一步(&amp;N)</translation>
+    </message>
+    <message>
+        <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
+        <translation>感谢您的信任，希望您喜欢本软件。</translation>
+    </message>
+    <message>
+        <source>Discover more products from us:</source>
+        <translation>了解我们的更多产品：</translation>
+    </message>
+    <message>
+        <source>We are looking for native speaking translators.</source>
+        <translation>我们正在寻找以目标语言为母语的译者。</translation>
+    </message>
+    <message>
+        <source>Please contact us at: </source>
+        <translation>请联系我们： </translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Rules</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Active Rules</source>
+        <translation>已启用的规则</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>规则</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Clear list</source>
+        <translation>清空列表</translation>
+    </message>
+    <message>
+        <source>File List</source>
+        <translation>文件列表</translation>
+    </message>
+    <message>
+        <source>Name Filter</source>
+        <translation>名称过滤器</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Show full path</source>
+        <translation>显示完整路径</translation>
+    </message>
+    <message>
+        <source>Application Log</source>
+        <translation>应用程序日志</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>Save logs</source>
+        <translation>保存日志</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Include debug messages</source>
+        <translation>包含调试消息</translation>
+    </message>
+    <message>
+        <source>Debug</source>
+        <translation>调试</translation>
+    </message>
+    <message>
+        <source>Open log directory</source>
+        <translation>打开日志目录</translation>
+    </message>
+    <message>
+        <source>Global Settings</source>
+        <translation>全局设置</translation>
+    </message>
+    <message>
+        <source>File Explorer</source>
+        <translation>文件资源管理器</translation>
+    </message>
+    <message>
+        <source>Please wait</source>
+        <translation>请稍候</translation>
+    </message>
+    <message>
+        <source>Acquire files</source>
+        <translation>正在获取文件</translation>
+    </message>
+    <message>
+        <source>File renaming started</source>
+        <translation>已开始重命名文件</translation>
+    </message>
+    <message>
+        <source>Could not rename file</source>
+        <translation>无法重命名文件</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>总计</translation>
+    </message>
+    <message>
+        <source>Processed</source>
+        <translation>已处理</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>报告</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Please support us if you like this software and want to keep our service alive.</source>
+        <translation>如果您喜欢本软件并希望我们的服务持续下去，请支持我们。</translation>
+    </message>
+    <message>
+        <source>Thank you!</source>
+        <translation>谢谢！</translation>
+    </message>
+    <message>
+        <source>Application has been minimized.</source>
+        <translation>应用程序已最小化。</translation>
+    </message>
+    <message>
+        <source>Click the tray icon to show.</source>
+        <translation>单击托盘图标可显示窗口。</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>不透明度</translation>
+    </message>
+    <message>
+        <source>Stay on Top</source>
+        <translation>始终置顶</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>套接字操作超时</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>全选(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>增大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>减小(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>QDockWidget</name>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>Undocks and re-attaches the dock widget</source>
+        <translation>取消停靠或重新停靠面板</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Closes the dock widget</source>
+        <translation>关闭停靠面板</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+</context>
+<context>
+    <name>QHttp</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>连接被拒绝</translation>
+    </message>
+    <message>
+        <source>Connection closed</source>
+        <translation>连接已关闭</translation>
+    </message>
+    <message>
+        <source>Host %1 not found</source>
+        <translation>找不到主机 %1</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Host unreachable</source>
+        <translation>无法访问主机</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>无法访问网络</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>忽略</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>滚动到此处</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左边缘</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右边缘</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>向左翻页</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>向上翻页</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>向右翻页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>向下翻页</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>复制链接地址(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>Rules</name>
+    <message>
+        <source>Direction</source>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>从开头</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>从末尾</translation>
+    </message>
+    <message>
+        <source>Change Case</source>
+        <translation>更改大小写</translation>
+    </message>
+    <message>
+        <source>Uppercase letters</source>
+        <translation>大写字母</translation>
+    </message>
+    <message>
+        <source>Lowercase letters</source>
+        <translation>小写字母</translation>
+    </message>
+    <message>
+        <source>Uppercase first letter of each word</source>
+        <translation>每个单词首字母大写</translation>
+    </message>
+    <message>
+        <source>Ignore File Extension</source>
+        <translation>忽略文件扩展名</translation>
+    </message>
+    <message>
+        <source>Enumerate</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Start Number</source>
+        <translation>起始编号</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Leading Zeros</source>
+        <translation>前导零</translation>
+    </message>
+    <message>
+        <source>Insert Text</source>
+        <translation>插入文本</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replace what</source>
+        <translation>查找内容</translation>
+    </message>
+    <message>
+        <source>Replace with</source>
+        <translation>替换为</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>正则表达式</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>删除字符</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>长度</translation>
+    </message>
+</context>
+<context>
+    <name>TrayIcon</name>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>还原(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+</context>
+<context>
+    <name>VersionCheck</name>
+    <message>
+        <source>Data transmission failure</source>
+        <translation>数据传输失败</translation>
+    </message>
+    <message>
+        <source>Version check failed</source>
+        <translation>版本检查失败</translation>
+    </message>
+    <message>
+        <source>Error connecting to server.</source>
+        <translation>连接服务器时出错。</translation>
+    </message>
+    <message>
+        <source>Please check manually at:</source>
+        <translation>请手动检查：</translation>
+    </message>
+    <message>
+        <source>There is a new version available!</source>
+        <translation>有新版本可用！</translation>
+    </message>
+    <message>
+        <source>Would you like to download it now?</source>
+        <translation>是否立即下载？</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍后</translation>
+    </message>
+    <message>
+        <source>What&apos;s new?</source>
+        <translation>有哪些更新？</translation>
+    </message>
+    <message>
+        <source>Skip Version</source>
+        <translation>跳过此版本</translation>
+    </message>
+    <message>
+        <source>You are using the latest version.</source>
+        <translation>您使用的是最新版本。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+// Qt's own texts that this program shows. Never compiled, never included: lupdate alone reads this list, so
+// that the .ts files hold these texts in Qt's contexts and one .qm per language carries everything. Without
+// it, menus and buttons that Qt makes would stay English. Texts that cannot be seen in this program are left
+// out.
+
+#pragma once
+
+// Buttons of message boxes; the box of a failed version check keeps Qt's "OK".
+QT_TRANSLATE_NOOP("QPlatformTheme", "OK")
+QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes")
+QT_TRANSLATE_NOOP("QPlatformTheme", "Close")
+QT_TRANSLATE_NOOP("QPlatformTheme", "Retry")
+QT_TRANSLATE_NOOP("QPlatformTheme", "Ignore")
+
+// The context menu of a line edit, which is also most of a spin box's.
+QT_TRANSLATE_NOOP("QLineEdit", "&Undo")
+QT_TRANSLATE_NOOP("QLineEdit", "&Redo")
+QT_TRANSLATE_NOOP("QLineEdit", "Cu&t")
+QT_TRANSLATE_NOOP("QLineEdit", "&Copy")
+QT_TRANSLATE_NOOP("QLineEdit", "&Paste")
+QT_TRANSLATE_NOOP("QLineEdit", "Delete")
+QT_TRANSLATE_NOOP("QLineEdit", "Select All")
+
+// What a spin box adds to it; "&Select All" takes the place of the line edit's.
+QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Select All")
+QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Step up")
+QT_TRANSLATE_NOOP("QAbstractSpinBox", "Step &down")
+
+// The context menu of texts that can only be read: labels with links, the welcome text.
+QT_TRANSLATE_NOOP("QWidgetTextControl", "&Copy")
+QT_TRANSLATE_NOOP("QWidgetTextControl", "Copy &Link Location")
+QT_TRANSLATE_NOOP("QWidgetTextControl", "Select All")
+
+// Keys in the shortcuts that these menus show, as in "Ctrl+Shift+Z".
+QT_TRANSLATE_NOOP("QShortcut", "Ctrl")
+QT_TRANSLATE_NOOP("QShortcut", "Shift")
+
+// The context menu of a scroll bar.
+QT_TRANSLATE_NOOP("QScrollBar", "Scroll here")
+QT_TRANSLATE_NOOP("QScrollBar", "Left edge")
+QT_TRANSLATE_NOOP("QScrollBar", "Top")
+QT_TRANSLATE_NOOP("QScrollBar", "Right edge")
+QT_TRANSLATE_NOOP("QScrollBar", "Bottom")
+QT_TRANSLATE_NOOP("QScrollBar", "Page left")
+QT_TRANSLATE_NOOP("QScrollBar", "Page up")
+QT_TRANSLATE_NOOP("QScrollBar", "Page right")
+QT_TRANSLATE_NOOP("QScrollBar", "Page down")
+QT_TRANSLATE_NOOP("QScrollBar", "Scroll left")
+QT_TRANSLATE_NOOP("QScrollBar", "Scroll up")
+QT_TRANSLATE_NOOP("QScrollBar", "Scroll right")
+QT_TRANSLATE_NOOP("QScrollBar", "Scroll down")
+
+// The header of the file explorer; its other columns are hidden.
+QT_TRANSLATE_NOOP("QFileSystemModel", "Name")
+
+// A dock's buttons, as screen readers name them.
+QT_TRANSLATE_NOOP("QDockWidget", "Float")
+QT_TRANSLATE_NOOP("QDockWidget", "Undocks and re-attaches the dock widget")
+QT_TRANSLATE_NOOP("QDockWidget", "Close")
+QT_TRANSLATE_NOOP("QDockWidget", "Closes the dock widget")
+
+// The usual reasons of a failed version check, quoted in its message. Of an HTTP error Qt speaks English
+// always.
+QT_TRANSLATE_NOOP("QHttp", "Connection refused")
+QT_TRANSLATE_NOOP("QHttp", "Connection closed")
+QT_TRANSLATE_NOOP("QHttp", "Host %1 not found")
+QT_TRANSLATE_NOOP("QNativeSocketEngine", "Host unreachable")
+QT_TRANSLATE_NOOP("QNativeSocketEngine", "Network unreachable")
+QT_TRANSLATE_NOOP("QAbstractSocket", "Socket operation timed out")
