@@ -45,6 +45,8 @@ public:
     {
         QDir::setCurrent(tree.path());
         SettingsStore::instance()->setFilePath(tree.path() + QStringLiteral("/config/global.xml"));
+        // The request at close counts down for 15 seconds.
+        SettingsStore::instance()->setValueByName(QStringLiteral("SupportUsHint"), false);
     }
     ~TestSettings()
     {
