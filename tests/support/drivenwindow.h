@@ -45,7 +45,7 @@ public:
     {
         QDir::setCurrent(tree.path());
         SettingsStore::instance()->setFilePath(tree.path() + QStringLiteral("/config/global.xml"));
-        // The request at close counts down for 15 seconds.
+        // Closing a window would ask for support otherwise, and wait for an answer.
         SettingsStore::instance()->setValueByName(QStringLiteral("SupportUsHint"), false);
     }
     ~TestSettings()
