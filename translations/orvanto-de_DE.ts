@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Immer im Vordergrund</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

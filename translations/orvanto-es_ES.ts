@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Siempre visible</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

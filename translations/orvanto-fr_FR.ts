@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation>Traduction : Kavrondel</translation>
+        <translation>Traduction&#xa0;: Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Découvrez nos autres produits :</translation>
+        <translation>Découvrez nos autres produits&#xa0;:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Veuillez nous contacter à l’adresse : </translation>
+        <translation>Veuillez nous contacter à l’adresse&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Thank you!</source>
-        <translation>Merci !</translation>
+        <translation>Merci&#xa0;!</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
@@ -343,6 +343,18 @@
     <message>
         <source>Stay on Top</source>
         <translation>Toujours au premier plan</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
     </message>
 </context>
 <context>
@@ -461,7 +473,7 @@
     <name>QNetworkReply</name>
     <message>
         <source>Error transferring %1 - server replied: %2</source>
-        <translation>Erreur lors du transfert de %1 - réponse du serveur : %2</translation>
+        <translation>Erreur lors du transfert de %1 - réponse du serveur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -678,15 +690,15 @@
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation>Veuillez vérifier vous-même à l’adresse :</translation>
+        <translation>Veuillez vérifier vous-même à l’adresse&#xa0;:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation>Une nouvelle version est disponible !</translation>
+        <translation>Une nouvelle version est disponible&#xa0;!</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation>Voulez-vous la télécharger maintenant ?</translation>
+        <translation>Voulez-vous la télécharger maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Download</source>
@@ -698,7 +710,7 @@
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation>Quoi de neuf ?</translation>
+        <translation>Quoi de neuf&#xa0;?</translation>
     </message>
     <message>
         <source>Skip Version</source>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Sempre in primo piano</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Sposta giù</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

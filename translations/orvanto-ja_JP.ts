@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>常に最前面に表示</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

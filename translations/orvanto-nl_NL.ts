@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Altijd op de voorgrond</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Zawsze na wierzchu</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Przenieś w górę</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Przenieś w dół</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Sempre visível</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Mover para baixo</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

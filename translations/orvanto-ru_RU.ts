@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Поверх всех окон</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Переместить вверх</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Переместить вниз</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Her Zaman Üstte</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Aşağı taşı</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

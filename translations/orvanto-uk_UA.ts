@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Поверх усіх вікон</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Перемістити вгору</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Перемістити вниз</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>始终置顶</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>

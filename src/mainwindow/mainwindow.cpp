@@ -74,6 +74,7 @@ void MainWindow::initialize()
     setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
     createTrayIcon();
     createLogo();
+    nameIconButtons();
     taskbarList = TaskbarList::create(winId());
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
@@ -163,7 +164,7 @@ void MainWindow::createLogo()
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     ui->toolBar->addWidget(spacer);
 
-    auto *buttonLogo = new QPushButton;
+    buttonLogo = new QPushButton;
     buttonLogo->setObjectName(u"buttonLogo"_s);
     buttonLogo->setIcon(QIcon(u":/img/logo.png"_s));
     buttonLogo->setIconSize({102, 30});
@@ -184,6 +185,22 @@ void MainWindow::retranslateExplorer()
         ui->actionExplorer->setStatusTip(tr("File Explorer"));
     }
     fillRuleComboBox();
+}
+
+void MainWindow::nameIconButtons()
+{
+    // For screen readers: what has no text is named by its status tip.
+    const auto buttons = findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->text().isEmpty() && !button->statusTip().isEmpty())
+            button->setAccessibleName(button->statusTip());
+    }
+    const auto actions = ui->toolBar->actions();
+    for (QAction *action : actions) {
+        if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
+            button->setAccessibleName(action->statusTip());
+    }
+    buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));
 }
 
 void MainWindow::onTimeout()
@@ -298,6 +315,7 @@ void MainWindow::changeEvent(QEvent *event)
         retranslateExplorer();
         ui->retranslateUi(this);
         retranslateTrayMenu();
+        nameIconButtons();
         event->accept();
         return;
     }

@@ -12,6 +12,7 @@
 #include <memory>
 
 class ProgressDialog;
+class QPushButton;
 class QSignalMapper;
 class QTreeView;
 class Rule;
@@ -88,6 +89,7 @@ private:
     void createLogo();
     void createTrayIcon();
     void retranslateExplorer();
+    void nameIconButtons();
     void openLogFolder();
     void moveLogLinesToTable();
     void checkForNewVersion();
@@ -120,7 +122,8 @@ private:
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     QSignalMapper *commandMapper = nullptr; ///< to onClicked()
-    QAction *actionRestore = nullptr;       ///< of the tray's menu
-    QAction *actionQuit = nullptr;          ///< of the tray's menu
+    QPushButton *buttonLogo = nullptr;
+    QAction *actionRestore = nullptr; ///< of the tray's menu
+    QAction *actionQuit = nullptr;    ///< of the tray's menu
     bool closesQuietly = false;
 };
