@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Advice</source>
-        <translation>Conseil</translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Add-ons</source>
-        <translation>Modules</translation>
+        <translation>Extensions</translation>
     </message>
     <message>
         <source>Localisation</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation>Restaurer la disposition des fenêtres</translation>
+        <translation>Restaurer la disposition de la fenêtre</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Check Now</source>
-        <translation>Vérifier</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Plugins</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Nous recherchons des traducteurs de langue maternelle.</translation>
+        <translation>Nous recherchons des traducteurs travaillant vers leur langue maternelle.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Détache et rattache le panneau</translation>
+        <translation>Détache ou rattache le panneau</translation>
     </message>
     <message>
         <source>Close</source>
@@ -467,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Réseau inaccessible</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Erreur lors du transfert de %1 - réponse du serveur&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -628,7 +621,7 @@
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation>Zéros initiaux</translation>
+        <translation>Zéros en tête</translation>
     </message>
     <message>
         <source>Insert Text</source>
@@ -656,7 +649,7 @@
     </message>
     <message>
         <source>Trim</source>
-        <translation>Rogner</translation>
+        <translation>Raccourcir</translation>
     </message>
     <message>
         <source>Length</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Advice</source>
-        <translation>Advies</translation>
+        <translation>Mededeling</translation>
     </message>
 </context>
 <context>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation>Vereist een registervermelding</translation>
+        <translation>Vereist een vermelding in het register</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Wij zoeken vertalers die in hun moedertaal vertalen.</translation>
+        <translation>Wij zoeken vertalers die naar hun moedertaal vertalen.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>File List</source>
-        <translation>Bestandenlijst</translation>
+        <translation>Bestandslijst</translation>
     </message>
     <message>
         <source>Name Filter</source>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Voorbeeld</translation>
+        <translation>Voorvertoning</translation>
     </message>
     <message>
         <source>Rename</source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Maakt het paneel los en weer vast</translation>
+        <translation>Maakt het paneel los of weer vast</translation>
     </message>
     <message>
         <source>Close</source>
@@ -467,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Netwerk onbereikbaar</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Fout bij het overdragen van %1 - antwoord van de server: %2</translation>
     </message>
 </context>
 <context>
@@ -596,7 +589,7 @@
     </message>
     <message>
         <source>Change Case</source>
-        <translation>Hoofdletters/kleine letters</translation>
+        <translation>Hoofdlettergebruik</translation>
     </message>
     <message>
         <source>Uppercase letters</source>

@@ -470,13 +470,6 @@
     </message>
 </context>
 <context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>传输 %1 时出错 - 服务器回复：%2</translation>
-    </message>
-</context>
-<context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>

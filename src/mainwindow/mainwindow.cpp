@@ -24,6 +24,8 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,7 +36,8 @@ enum VariousCommand { ShowFullPath, ToggleExplorerDock };
 constexpr int removeFilesId = 4;
 constexpr int removeRuleId = 5;
 
-constexpr int logTimerInterval = 250; // milliseconds
+constexpr int renameButtonWidth = 140; // pixels, at least
+constexpr int logTimerInterval = 250;  // milliseconds
 // Deliberate: the cap is applied after each insertion, so the table holds at most 99 rows.
 constexpr int logRowLimit = 100;
 
@@ -74,7 +77,7 @@ void MainWindow::initialize()
     setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
     createTrayIcon();
     createLogo();
-    nameIconButtons();
+    adjustToTexts();
     taskbarList = TaskbarList::create(winId());
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
@@ -187,7 +190,7 @@ void MainWindow::retranslateExplorer()
     fillRuleComboBox();
 }
 
-void MainWindow::nameIconButtons()
+void MainWindow::adjustToTexts()
 {
     // For screen readers: what has no text is named by its status tip.
     const auto buttons = findChildren<QAbstractButton *>();
@@ -200,6 +203,8 @@ void MainWindow::nameIconButtons()
         if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
             button->setAccessibleName(action->statusTip());
     }
+    // Its minimum width hides from the layout what a longer text needs.
+    ui->buttonRename->setMinimumWidth(std::max(renameButtonWidth, ui->buttonRename->sizeHint().width()));
     buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));
 }
 
@@ -315,7 +320,7 @@ void MainWindow::changeEvent(QEvent *event)
         retranslateExplorer();
         ui->retranslateUi(this);
         retranslateTrayMenu();
-        nameIconButtons();
+        adjustToTexts();
         event->accept();
         return;
     }

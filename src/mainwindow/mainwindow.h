@@ -89,7 +89,7 @@ private:
     void createLogo();
     void createTrayIcon();
     void retranslateExplorer();
-    void nameIconButtons();
+    void adjustToTexts();
     void openLogFolder();
     void moveLogLinesToTable();
     void checkForNewVersion();

@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -113,6 +114,8 @@ void MainWindow::minimizeWindow()
     }
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    if (windowHandle())
+        windowHandle()->destroy();
     trayIcon->show();
     if (!settings->valueByName(trayIconHint, true).toBool())
         return;

@@ -5,14 +5,17 @@
 from .waiting import until, until_still
 
 DRAG_STEPS = 12
+MARK = 20
 LEFT, MIDDLE, RIGHT, WHEEL_UP, WHEEL_DOWN = "1", "2", "3", "4", "5"
 
 
 def middle_of(widget):
-    """The middle of a widget that has come to rest and may be clicked."""
+    """The middle of a widget that has come to rest and may be clicked; of a check box that of its mark."""
     until(lambda: widget.has("showing"), f"{widget!r} to be visible")
     extents = until_still(lambda: widget.extents, f"{widget!r} to rest")
-    return extents.x + extents.width // 2, extents.y + extents.height // 2
+    # A check box may be much wider than its text, and the space behind the text takes no clicks.
+    width = min(extents.width, MARK) if widget.role in ("check box", "radio button") else extents.width
+    return extents.x + width // 2, extents.y + extents.height // 2
 
 
 class Hands:
