@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation>Bitte unterstützen Sie uns, wenn Ihnen dieses Programm gefällt und Sie unser Angebot erhalten möchten.</translation>
+        <translation>Bitte unterstützen Sie uns, wenn Ihnen dieses Programm gefällt und es unser Angebot weiterhin geben soll.</translation>
     </message>
     <message>
         <source>Thank you!</source>
@@ -343,6 +343,18 @@
     <message>
         <source>Stay on Top</source>
         <translation>Immer im Vordergrund</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
     </message>
 </context>
 <context>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Löst den Andockbereich und dockt ihn wieder an</translation>
+        <translation>Löst das Andockfenster oder dockt es wieder an</translation>
     </message>
     <message>
         <source>Close</source>
@@ -390,7 +402,7 @@
     </message>
     <message>
         <source>Closes the dock widget</source>
-        <translation>Schließt den Andockbereich</translation>
+        <translation>Schließt das Andockfenster</translation>
     </message>
 </context>
 <context>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Netzwerk nicht erreichbar</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Fehler bei der Übertragung von %1 - Antwort des Servers: %2</translation>
     </message>
 </context>
 <context>
@@ -596,7 +601,7 @@
     </message>
     <message>
         <source>Uppercase first letter of each word</source>
-        <translation>Ersten Buchstaben jedes Wortes groß</translation>
+        <translation>Jedes Wort groß beginnen</translation>
     </message>
     <message>
         <source>Ignore File Extension</source>

@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Add-ons</source>
-        <translation>Complementos</translation>
+        <translation>Extensiones</translation>
     </message>
     <message>
         <source>Localisation</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation>&lt;b style=&apos;color:#888&apos;&gt;Hecho por Kavrondel&lt;/b&gt;</translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Desarrollado por Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
@@ -140,11 +140,11 @@
     </message>
     <message>
         <source>The command completed successfully.</source>
-        <translation>La orden se ha completado correctamente.</translation>
+        <translation>El comando se ha completado correctamente.</translation>
     </message>
     <message>
         <source>The command failed to execute.</source>
-        <translation>No se ha podido ejecutar la orden.</translation>
+        <translation>No se ha podido ejecutar el comando.</translation>
     </message>
     <message>
         <source>Make sure you have administrator rights.</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Descubra otros productos nuestros:</translation>
+        <translation>Descubra más productos nuestros:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>File renaming started</source>
-        <translation>Cambio de nombre iniciado</translation>
+        <translation>Se ha empezado a renombrar los archivos</translation>
     </message>
     <message>
         <source>Could not rename file</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>Con errores</translation>
+        <translation>Fallidos</translation>
     </message>
     <message>
         <source>Report</source>
@@ -343,6 +343,18 @@
     <message>
         <source>Stay on Top</source>
         <translation>Siempre visible</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Subir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Bajar</translation>
     </message>
 </context>
 <context>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Desacopla y vuelve a acoplar el panel</translation>
+        <translation>Desacopla el panel o lo vuelve a acoplar</translation>
     </message>
     <message>
         <source>Close</source>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Red inaccesible</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Error al transferir %1 - respuesta del servidor: %2</translation>
     </message>
 </context>
 <context>
@@ -616,7 +621,7 @@
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation>Ceros iniciales</translation>
+        <translation>Ceros a la izquierda</translation>
     </message>
     <message>
         <source>Insert Text</source>
@@ -636,7 +641,7 @@
     </message>
     <message>
         <source>Replace with</source>
-        <translation>Reemplazar con</translation>
+        <translation>Reemplazar por</translation>
     </message>
     <message>
         <source>Regular Expression</source>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Advice</source>
-        <translation>Conseil</translation>
+        <translation>Information</translation>
     </message>
 </context>
 <context>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Add-ons</source>
-        <translation>Modules</translation>
+        <translation>Extensions</translation>
     </message>
     <message>
         <source>Localisation</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Restore window layout</source>
-        <translation>Restaurer la disposition des fenêtres</translation>
+        <translation>Restaurer la disposition de la fenêtre</translation>
     </message>
     <message>
         <source>Restore window geometry</source>
@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Check Now</source>
-        <translation>Vérifier</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Plugins</source>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Translation: Kavrondel</source>
-        <translation>Traduction : Kavrondel</translation>
+        <translation>Traduction&#xa0;: Kavrondel</translation>
     </message>
     <message>
         <source>Support this project</source>
@@ -183,15 +183,15 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Découvrez nos autres produits :</translation>
+        <translation>Découvrez nos autres produits&#xa0;:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Nous recherchons des traducteurs de langue maternelle.</translation>
+        <translation>Nous recherchons des traducteurs travaillant vers leur langue maternelle.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Veuillez nous contacter à l’adresse : </translation>
+        <translation>Veuillez nous contacter à l’adresse&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>Thank you!</source>
-        <translation>Merci !</translation>
+        <translation>Merci&#xa0;!</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
@@ -343,6 +343,18 @@
     <message>
         <source>Stay on Top</source>
         <translation>Toujours au premier plan</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
     </message>
 </context>
 <context>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Détache et rattache le panneau</translation>
+        <translation>Détache ou rattache le panneau</translation>
     </message>
     <message>
         <source>Close</source>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Réseau inaccessible</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Erreur lors du transfert de %1 - réponse du serveur : %2</translation>
     </message>
 </context>
 <context>
@@ -616,7 +621,7 @@
     </message>
     <message>
         <source>Leading Zeros</source>
-        <translation>Zéros initiaux</translation>
+        <translation>Zéros en tête</translation>
     </message>
     <message>
         <source>Insert Text</source>
@@ -644,7 +649,7 @@
     </message>
     <message>
         <source>Trim</source>
-        <translation>Rogner</translation>
+        <translation>Raccourcir</translation>
     </message>
     <message>
         <source>Length</source>
@@ -678,15 +683,15 @@
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation>Veuillez vérifier vous-même à l’adresse :</translation>
+        <translation>Veuillez vérifier vous-même à l’adresse&#xa0;:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation>Une nouvelle version est disponible !</translation>
+        <translation>Une nouvelle version est disponible&#xa0;!</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation>Voulez-vous la télécharger maintenant ?</translation>
+        <translation>Voulez-vous la télécharger maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Download</source>
@@ -698,7 +703,7 @@
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation>Quoi de neuf ?</translation>
+        <translation>Quoi de neuf&#xa0;?</translation>
     </message>
     <message>
         <source>Skip Version</source>

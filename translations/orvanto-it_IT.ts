@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Add-ons</source>
-        <translation>Componenti aggiuntivi</translation>
+        <translation>Estensioni</translation>
     </message>
     <message>
         <source>Localisation</source>
@@ -124,7 +124,7 @@
     </message>
     <message>
         <source>Send us feedback</source>
-        <translation>Inviaci un commento</translation>
+        <translation>Invia un commento</translation>
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
@@ -179,11 +179,11 @@
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation>Grazie per la fiducia: ci auguriamo che questo programma sia di vostro gradimento.</translation>
+        <translation>Grazie per la fiducia. Ci auguriamo che questo programma sia di gradimento.</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Scopri gli altri nostri prodotti:</translation>
+        <translation>Altri nostri prodotti:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Please contact us at: </source>
-        <translation>Contattateci all’indirizzo: </translation>
+        <translation>Per contattarci: </translation>
     </message>
 </context>
 <context>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>Application Log</source>
-        <translation>Registro dell’applicazione</translation>
+        <translation>Log dell’applicazione</translation>
     </message>
     <message>
         <source>Time</source>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Save logs</source>
-        <translation>Salva i registri</translation>
+        <translation>Salva i log</translation>
     </message>
     <message>
         <source>Save</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Open log directory</source>
-        <translation>Apri la cartella dei registri</translation>
+        <translation>Apri la cartella dei log</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation>Sosteneteci se questo programma vi piace e volete che il nostro servizio continui.</translation>
+        <translation>Se il programma è gradito e si desidera che il nostro servizio continui, un piccolo sostegno è benvenuto.</translation>
     </message>
     <message>
         <source>Thank you!</source>
@@ -343,6 +343,18 @@
     <message>
         <source>Stay on Top</source>
         <translation>Sempre in primo piano</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Sposta giù</translation>
     </message>
 </context>
 <context>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Sgancia e riaggancia il pannello</translation>
+        <translation>Sgancia o riaggancia il pannello</translation>
     </message>
     <message>
         <source>Close</source>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Rete non raggiungibile</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Errore durante il trasferimento di %1 - risposta del server: %2</translation>
     </message>
 </context>
 <context>

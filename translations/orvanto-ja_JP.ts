@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>常に最前面に表示</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ移動</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ移動</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>ネットワークに到達できません</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>%1 の転送中にエラーが発生しました - サーバーの応答: %2</translation>
     </message>
 </context>
 <context>

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Advice</source>
-        <translation>Advies</translation>
+        <translation>Mededeling</translation>
     </message>
 </context>
 <context>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Requires registry entry</source>
-        <translation>Vereist een registervermelding</translation>
+        <translation>Vereist een vermelding in het register</translation>
     </message>
     <message>
         <source>Load on system start-up</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Wij zoeken vertalers die in hun moedertaal vertalen.</translation>
+        <translation>Wij zoeken vertalers die naar hun moedertaal vertalen.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
@@ -222,7 +222,7 @@
     </message>
     <message>
         <source>File List</source>
-        <translation>Bestandenlijst</translation>
+        <translation>Bestandslijst</translation>
     </message>
     <message>
         <source>Name Filter</source>
@@ -234,7 +234,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Voorbeeld</translation>
+        <translation>Voorvertoning</translation>
     </message>
     <message>
         <source>Rename</source>
@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Altijd op de voorgrond</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Omlaag</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Maakt het paneel los en weer vast</translation>
+        <translation>Maakt het paneel los of weer vast</translation>
     </message>
     <message>
         <source>Close</source>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Netwerk onbereikbaar</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Fout bij het overdragen van %1 - antwoord van de server: %2</translation>
     </message>
 </context>
 <context>
@@ -584,7 +589,7 @@
     </message>
     <message>
         <source>Change Case</source>
-        <translation>Hoofdletters/kleine letters</translation>
+        <translation>Hoofdlettergebruik</translation>
     </message>
     <message>
         <source>Uppercase letters</source>

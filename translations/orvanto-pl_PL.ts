@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Zawsze na wierzchu</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Przenieś w górę</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Przenieś w dół</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Sieć nieosiągalna</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Błąd podczas przesyłania %1 - odpowiedź serwera: %2</translation>
     </message>
 </context>
 <context>

@@ -72,11 +72,11 @@
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation>Verificar novas versões automaticamente</translation>
+        <translation>Procurar nova versão automaticamente</translation>
     </message>
     <message>
         <source>Check Now</source>
-        <translation>Verificar agora</translation>
+        <translation>Procurar agora</translation>
     </message>
     <message>
         <source>Plugins</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation>&lt;b style=&apos;color:#888&apos;&gt;Feito por Kavrondel&lt;/b&gt;</translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Desenvolvido por Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
@@ -171,7 +171,7 @@
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation>Verificar novas versões automaticamente</translation>
+        <translation>Procurar novas versões automaticamente</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Discover more products from us:</source>
-        <translation>Conheça outros produtos nossos:</translation>
+        <translation>Conheça nossos outros produtos:</translation>
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>Application Log</source>
-        <translation>Registro do aplicativo</translation>
+        <translation>Log do aplicativo</translation>
     </message>
     <message>
         <source>Time</source>
@@ -258,7 +258,7 @@
     </message>
     <message>
         <source>Save logs</source>
-        <translation>Salvar os registros</translation>
+        <translation>Salvar os logs</translation>
     </message>
     <message>
         <source>Save</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>Open log directory</source>
-        <translation>Abrir a pasta de registros</translation>
+        <translation>Abrir a pasta de logs</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -310,7 +310,7 @@
     </message>
     <message>
         <source>Failed</source>
-        <translation>Com falha</translation>
+        <translation>Falhas</translation>
     </message>
     <message>
         <source>Report</source>
@@ -344,12 +344,24 @@
         <source>Stay on Top</source>
         <translation>Sempre visível</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Mover para cima</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Mover para baixo</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation>Tempo esgotado em uma operação de soquete</translation>
+        <translation>Tempo esgotado em uma operação de socket</translation>
     </message>
 </context>
 <context>
@@ -382,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Desencaixa e reencaixa o painel</translation>
+        <translation>Desencaixa ou reencaixa o painel</translation>
     </message>
     <message>
         <source>Close</source>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Rede inacessível</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Erro ao transferir %1 - resposta do servidor: %2</translation>
     </message>
 </context>
 <context>
@@ -644,7 +649,7 @@
     </message>
     <message>
         <source>Trim</source>
-        <translation>Aparar</translation>
+        <translation>Encurtar</translation>
     </message>
     <message>
         <source>Length</source>

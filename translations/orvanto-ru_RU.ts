@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Поверх всех окон</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Переместить вверх</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Переместить вниз</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Сеть недоступна</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Ошибка при передаче %1 - ответ сервера: %2</translation>
     </message>
 </context>
 <context>

@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Her Zaman Üstte</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Yukarı taşı</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Aşağı taşı</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Ağa ulaşılamıyor</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>%1 aktarılırken hata oluştu - sunucunun yanıtı: %2</translation>
     </message>
 </context>
 <context>

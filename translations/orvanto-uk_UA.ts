@@ -344,6 +344,18 @@
         <source>Stay on Top</source>
         <translation>Поверх усіх вікон</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Перемістити вгору</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Перемістити вниз</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSocket</name>
@@ -455,13 +467,6 @@
     <message>
         <source>Network unreachable</source>
         <translation>Мережа недоступна</translation>
-    </message>
-</context>
-<context>
-    <name>QNetworkReply</name>
-    <message>
-        <source>Error transferring %1 - server replied: %2</source>
-        <translation>Помилка під час передавання %1 - відповідь сервера: %2</translation>
     </message>
 </context>
 <context>

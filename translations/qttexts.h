@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-// Qt's own texts that this program shows. Never compiled, never included: lupdate alone reads this list, so that
-// the .ts files hold these texts in Qt's contexts and one .qm per language carries everything. Without it, menus
-// and buttons that Qt makes would stay English. Texts that cannot be seen in this program are left out.
+// Qt's own texts that this program shows. Never compiled, never included: lupdate alone reads this list, so
+// that the .ts files hold these texts in Qt's contexts and one .qm per language carries everything. Without
+// it, menus and buttons that Qt makes would stay English. Texts that cannot be seen in this program are left
+// out.
 
 #pragma once
 
@@ -61,11 +62,11 @@ QT_TRANSLATE_NOOP("QDockWidget", "Undocks and re-attaches the dock widget")
 QT_TRANSLATE_NOOP("QDockWidget", "Close")
 QT_TRANSLATE_NOOP("QDockWidget", "Closes the dock widget")
 
-// The usual reasons of a failed version check, quoted in its message.
+// The usual reasons of a failed version check, quoted in its message. Of an HTTP error Qt speaks English
+// always.
 QT_TRANSLATE_NOOP("QHttp", "Connection refused")
 QT_TRANSLATE_NOOP("QHttp", "Connection closed")
 QT_TRANSLATE_NOOP("QHttp", "Host %1 not found")
 QT_TRANSLATE_NOOP("QNativeSocketEngine", "Host unreachable")
 QT_TRANSLATE_NOOP("QNativeSocketEngine", "Network unreachable")
 QT_TRANSLATE_NOOP("QAbstractSocket", "Socket operation timed out")
-QT_TRANSLATE_NOOP("QNetworkReply", "Error transferring %1 - server replied: %2")

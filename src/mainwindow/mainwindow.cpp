@@ -24,6 +24,8 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,7 +36,8 @@ enum VariousCommand { ShowFullPath, ToggleExplorerDock };
 constexpr int removeFilesId = 4;
 constexpr int removeRuleId = 5;
 
-constexpr int logTimerInterval = 250; // milliseconds
+constexpr int renameButtonWidth = 140; // pixels, at least
+constexpr int logTimerInterval = 250;  // milliseconds
 // Deliberate: the cap is applied after each insertion, so the table holds at most 99 rows.
 constexpr int logRowLimit = 100;
 
@@ -74,6 +77,7 @@ void MainWindow::initialize()
     setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
     createTrayIcon();
     createLogo();
+    adjustToTexts();
     taskbarList = TaskbarList::create(winId());
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
@@ -163,7 +167,7 @@ void MainWindow::createLogo()
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     ui->toolBar->addWidget(spacer);
 
-    auto *buttonLogo = new QPushButton;
+    buttonLogo = new QPushButton;
     buttonLogo->setObjectName(u"buttonLogo"_s);
     buttonLogo->setIcon(QIcon(u":/img/logo.png"_s));
     buttonLogo->setIconSize({102, 30});
@@ -184,6 +188,27 @@ void MainWindow::retranslateExplorer()
         ui->actionExplorer->setStatusTip(tr("File Explorer"));
     }
     fillRuleComboBox();
+}
+
+void MainWindow::adjustToTexts()
+{
+    // The first-start dialog can change the language before initialize().
+    if (!buttonLogo)
+        return;
+    // For screen readers: what has no text is named by its status tip.
+    const auto buttons = findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (button->text().isEmpty() && !button->statusTip().isEmpty())
+            button->setAccessibleName(button->statusTip());
+    }
+    const auto actions = ui->toolBar->actions();
+    for (QAction *action : actions) {
+        if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
+            button->setAccessibleName(action->statusTip());
+    }
+    // Its minimum width hides from the layout what a longer text needs.
+    ui->buttonRename->setMinimumWidth(std::max(renameButtonWidth, ui->buttonRename->sizeHint().width()));
+    buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));
 }
 
 void MainWindow::onTimeout()
@@ -298,6 +323,7 @@ void MainWindow::changeEvent(QEvent *event)
         retranslateExplorer();
         ui->retranslateUi(this);
         retranslateTrayMenu();
+        adjustToTexts();
         event->accept();
         return;
     }

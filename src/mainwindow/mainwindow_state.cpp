@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -113,6 +114,8 @@ void MainWindow::minimizeWindow()
     }
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    if (windowHandle())
+        windowHandle()->destroy();
     trayIcon->show();
     if (!settings->valueByName(trayIconHint, true).toBool())
         return;
@@ -205,6 +208,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
     const auto dialogs = findChildren<ProgressDialog *>();
     for (ProgressDialog *dialog : dialogs)
         dialog->reject();
+    // The adding runs within the drop, and Qt's drag and drop would go on with a native window that is gone.
+    closesAfterDrop = ui->listWidgetFiles->isHandlingDrop();
+    if (closesAfterDrop)
+        return;
     if (!closesQuietly)
         requestSupport();
     saveWindowSettings();
@@ -225,10 +232,11 @@ void MainWindow::requestSupport()
         settings->setValueByName(supportUsHint, false);
 }
 
-void MainWindow::closeQuietly()
+bool MainWindow::closeQuietly()
 {
     closesQuietly = true;
     closeFromAnyState();
+    return !closesAfterDrop;
 }
 
 void MainWindow::closeFromAnyState()

@@ -6,8 +6,9 @@
 import unittest
 
 from harness.case import Case
+from harness.dialogs import pass_first_start
+from harness.mainwindow import MainWindow
 from harness.program import SETTLED, settings_text
-from harness.waiting import until
 
 DECLARATION = "<?xml version='1.0' encoding='utf-8'?>"
 COMMENT = "<!--here you can find the global settings-->"
@@ -19,7 +20,7 @@ EDITED = """<?xml version="1.0" encoding="UTF-8"?>
     <Own><Remark place="left">kept \u00e9 &lt;3</Remark></Own>
     <Log><IncludeDebugInfo/><Save>true</Save></Log>
     <VersionCheck><Auto>false</Auto></VersionCheck>
-    <Misc><DisableSplashScreen>1</DisableSplashScreen><IsFirstStart>false</IsFirstStart></Misc>
+    <Misc><DisableSplashScreen>true</DisableSplashScreen><IsFirstStart>false</IsFirstStart></Misc>
 </Settings>
 """
 
@@ -29,6 +30,17 @@ DAMAGED = {
     "cut off": settings_text({**SETTLED, "Log.Save": "true"})[:-20],
     "another root": settings_text({**SETTLED, "Log.Save": "true"}).replace("Settings", "Options"),
     "binary": bytes(range(256)),
+}
+
+AFTER_FIRST_START = {
+    "@version": "1.2.0.5",
+    "Misc.IsFirstStart": "false",
+    "SupportUsHint": "false",
+    "VersionCheck.Auto": "false",
+    "Log.Save": "false",
+    "Log.IncludeDebugInfo": "false",
+    "Window.Opacity": "1",
+    "Window.StayOnTop": "false",
 }
 
 
@@ -82,7 +94,7 @@ class Settings(Case):
         self.assertEqual({name: settings[name] for name in (
             "@version", "Log.Save", "Log.IncludeDebugInfo", "SupportUsHint", "Misc.DisableSplashScreen")}, {
                 "@version": "1.2.0.5", "Log.Save": "true", "Log.IncludeDebugInfo": "false",
-                "SupportUsHint": "false", "Misc.DisableSplashScreen": "1"})
+                "SupportUsHint": "false", "Misc.DisableSplashScreen": "true"})
         # The message handler's default for the empty element is "yes".
         log = next((self.program.data / "logs").iterdir()).read_text(encoding="latin-1")
         self.assertIn("|Orvanto started\n", log)
@@ -90,25 +102,27 @@ class Settings(Case):
     def test_damaged(self):
         for kind, text in DAMAGED.items():
             with self.subTest(kind):
-                window = self.start(text=text)
-                self.assertEqual(self.log_boxes(window), (False, False))
-                self.close()
+                window = self.start_without_settings(text)
+                self.assertTrue(window.rules.has("showing"))
+                self.close(support_request=True)
                 self.assertIn(COMMENT, self.written(), "the file was not made anew")
                 settings = self.program.settings()
-                self.assertEqual((settings["@version"], settings["Log.Save"]), ("1.2.0.5", "false"))
-                self.assertNotIn("Own.Remark", settings)
+                self.assertEqual({name: settings[name] for name in AFTER_FIRST_START}, AFTER_FIRST_START)
 
     def test_missing_and_in_a_folder_that_cannot_be_made(self):
-        window = self.start(text=None)
-        until(lambda: window.frame.has("active"), "the main window")
-        self.close()
+        self.start_without_settings()
+        self.close(support_request=True)
         self.assertIn(COMMENT, self.written())
+        settings = self.program.settings()
+        self.assertEqual({name: settings[name] for name in AFTER_FIRST_START}, AFTER_FIRST_START)
         # A file in the way of the folder refuses everyone; the values are lost, and that is all.
         self.program.settings_file.unlink()
         self.program.settings_file.parent.rmdir()
         self.program.settings_file.parent.write_text("in the way", encoding="utf-8")
-        self.start_again()
-        self.close()
+        self.program.start()
+        pass_first_start(self.program)
+        MainWindow(self.program)
+        self.close(support_request=True)
         self.assertEqual(self.program.settings_file.parent.read_text(encoding="utf-8"), "in the way")
 
 

@@ -7,5 +7,6 @@ accessible  the widgets as assistive technology sees them
 hands       mouse and keyboard
 program     the built program with its own home directory
 mainwindow  the main window in the words of its user
+dialogs     the dialogs at the ends of the program's life
 case        the base class of the tests
 """

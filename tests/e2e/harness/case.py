@@ -10,6 +10,7 @@ import tempfile
 import unittest
 
 from .desktop import Desktop
+from .dialogs import answer_support_request, pass_first_start
 from .mainwindow import MainWindow
 from .program import SETTLED, Program, settings_text
 
@@ -61,13 +62,12 @@ class Case(unittest.TestCase):
     def start(self, text=settings_text(SETTLED), **settings):
         """Starts the program with settled settings; keywords are written with __ in place of the dot.
 
-        With "text" the settings file is what is given, with None there is none.
+        With "text" the settings file is what is given.
         """
         self.program = Program(self.desktop, self.home)
         if settings:
             text = settings_text({**SETTLED, **{name.replace("__", "."): text for name, text in settings.items()}})
-        if text is not None:
-            self.program.write_settings(text)
+        self.program.write_settings(text)
         return self.start_again()
 
     def start_again(self):
@@ -75,10 +75,20 @@ class Case(unittest.TestCase):
         self.program.start()
         return MainWindow(self.program)
 
-    def close(self, program=None):
+    def start_without_settings(self, text=None):
+        """Starts the program with a settings file that it cannot use, and goes through the first start."""
+        self.program = Program(self.desktop, self.home)
+        if text is not None:
+            self.program.write_settings(text)
+        self.program.start()
+        pass_first_start(self.program)
+        return MainWindow(self.program)
+
+    def close(self, support_request=False):
         """Closes the main window by the window manager; the program must end well and silently."""
-        program = program or self.program
-        program.close()
-        self.assertEqual(program.wait(), 0)
-        self.assertEqual(program.stderr, "")
-        self.assertEqual(program.stdout, "")
+        self.program.close()
+        if support_request:
+            answer_support_request(self.program, again=False)
+        self.assertEqual(self.program.wait(), 0)
+        self.assertEqual(self.program.stderr, "")
+        self.assertEqual(self.program.stdout, "")

@@ -5,14 +5,18 @@
 from .waiting import until, until_still
 
 DRAG_STEPS = 12
+MARK = 20
+HOVER_ROUNDS = 5
 LEFT, MIDDLE, RIGHT, WHEEL_UP, WHEEL_DOWN = "1", "2", "3", "4", "5"
 
 
 def middle_of(widget):
-    """The middle of a widget that has come to rest and may be clicked."""
+    """The middle of a widget that has come to rest and may be clicked; of a check box that of its mark."""
     until(lambda: widget.has("showing"), f"{widget!r} to be visible")
     extents = until_still(lambda: widget.extents, f"{widget!r} to rest")
-    return extents.x + extents.width // 2, extents.y + extents.height // 2
+    # A check box may be much wider than its text, and the space behind the text takes no clicks.
+    width = min(extents.width, MARK) if widget.role in ("check box", "radio button") else extents.width
+    return extents.x + width // 2, extents.y + extents.height // 2
 
 
 class Hands:
@@ -41,13 +45,16 @@ class Hands:
     def drag(self, start, target, accepted):
         """Drags from one point to another; lets go when accepted() is true of what is below the mouse."""
         x, y = target
+        rounds = 0
 
         def hover():
-            # A hand is never quite still; a drag that is slow to start gets its moves, too.
-            nonlocal x
+            # A hand is never quite still, and does not let go in the very moment of arrival: a drag that is slow
+            # to start gets its moves, too, and the program can tell that it would take a drop here.
+            nonlocal x, rounds
             x = target[0] + (x == target[0])
             self._do("mousemove", x, y)
-            return accepted()
+            rounds = rounds + 1 if accepted() else 0
+            return rounds > HOVER_ROUNDS
 
         self._do("mousemove", *start, "mousedown", LEFT)
         try:
