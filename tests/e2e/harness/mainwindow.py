@@ -151,8 +151,17 @@ class MainWindow:
         if self.files.has("focused"):
             self.hands.click(self.filter_edit)
             until(lambda: not self.files.has("focused"), "the file list to lose the focus")
+
+        def is_grasped():
+            # The press selects the row; rows may have moved since its place was found.
+            try:
+                return until(lambda: self.explorer_row(path).has("selected"), f"{path} to be selected", PATIENCE)
+            except AssertionError:
+                return False
+
         # The list takes the focus when a drag that it accepts comes in.
-        self.hands.drag(self.explorer_place(path), middle_of(self.files), lambda: self.files.has("focused"))
+        until(lambda: self.hands.drag(self.explorer_place(path), middle_of(self.files), is_grasped,
+                                      lambda: self.files.has("focused")), f"{path} to be dragged")
 
     # --- rules
 
