@@ -11,7 +11,7 @@ windowsPackages=(
     # Qt's host tools (moc, rcc, uic, lrelease) and the QRegExp header
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev
     # running and looking at the result
-    wine wine64 fonts-wine fonts-dejavu-core xvfb xauth openbox xdotool imagemagick
+    wine wine64 fonts-wine fonts-dejavu-core xvfb xauth openbox xdotool wmctrl imagemagick
 )
 
 installPackages() {

@@ -1,0 +1,67 @@
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+#
+# The portable zip and the installer, in build/windows/packages, from one staged folder.
+
+packageDir=$buildDir/packages
+stageDir=$buildDir/stage
+
+projectVersion() { sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$buildDir/CMakeCache.txt"; }
+
+# forWindows FILE NEW: copies a text with Windows' line ends.
+forWindows() { sed 's/\r*$/\r/' "$1" > "$2"; }
+
+# stageFiles: what both packages hold. The licence texts of the libraries come from the Debian packages that
+# the build uses.
+stageFiles() {
+    [[ -f $buildDir/bin/orvanto.exe ]] || fail "no orvanto.exe in $buildDir/bin: run the step program first"
+    rm -rf "$stageDir"
+    mkdir -p "$stageDir/licences"
+    cp "$buildDir/bin/orvanto.exe" "$stageDir"
+    cp -r "$buildDir/bin/locale" "$stageDir/locale"
+    forWindows "$projectDir/LICENSE" "$stageDir/LICENSE.txt"
+    forWindows "$windowsDir/libraries.txt" "$stageDir/licences/README.txt"
+    forWindows /usr/share/common-licenses/LGPL-3 "$stageDir/licences/LGPL-3.txt"
+    forWindows /usr/share/common-licenses/GPL-3 "$stageDir/licences/GPL-3.txt"
+    forWindows /usr/share/doc/libqt6core6/copyright "$stageDir/licences/Qt.txt"
+    forWindows /usr/share/doc/mingw-w64-common/copyright "$stageDir/licences/mingw-w64.txt"
+    forWindows /usr/share/doc/gcc-mingw-w64-base/copyright "$stageDir/licences/GCC.txt"
+}
+
+buildZip() {
+    say "Packing the portable zip"
+    stageFiles
+    local name zip
+    name=orvanto-$(projectVersion)-portable
+    zip=$packageDir/$name-windows.zip
+    mkdir -p "$packageDir"
+    rm -rf "$zip" "${buildDir:?}/$name"
+    cp -r "$stageDir" "$buildDir/$name"
+    forWindows "$windowsDir/portable.txt" "$buildDir/$name/portable.txt"
+    (cd "$buildDir" && zip -q -9 -X -r "$zip" "$name")
+    rm -rf "${buildDir:?}/$name"
+    printf 'Packed %s (%s bytes)\n' "$zip" "$(stat -c %s "$zip")"
+}
+
+# removalList: the installer script's lines that remove exactly what was installed, folders only when empty.
+removalList() {
+    (
+        cd "$stageDir"
+        find . -type f -printf 'Delete "$INSTDIR\\%P"\n' | sort
+        find . -mindepth 1 -type d -printf 'RMDir "$INSTDIR\\%P"\n' | sort -r
+    ) | tr / '\\'
+}
+
+buildInstaller() {
+    say "Making the installer"
+    stageFiles
+    local setup version log=$buildDir/installer.log
+    version=$(projectVersion)
+    setup=$packageDir/orvanto-$version-setup.exe
+    mkdir -p "$packageDir"
+    removalList > "$buildDir/removal.nsh"
+    makensis -V2 -INPUTCHARSET UTF8 "-DVERSION=$version" "-DSTAGE=$stageDir" "-DOUTPUT=$setup" \
+        "-DREMOVAL=$buildDir/removal.nsh" "-DICON=$projectDir/resources/app/orvanto.ico" \
+        "$windowsDir/installer.nsi" > "$log" 2>&1 || fail "making the installer failed, see $log"
+    printf 'Made %s (%s bytes)\n' "$setup" "$(stat -c %s "$setup")"
+}
