@@ -7,6 +7,7 @@
 
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <chrono>
@@ -97,6 +98,11 @@ void ListWidgetFiles::layoutLater()
     scheduleDelayedItemsLayout();
 }
 
+bool ListWidgetFiles::isHandlingDrop() const
+{
+    return handlesDrop;
+}
+
 void ListWidgetFiles::setRowText(int row, const QString &text)
 {
     delegate->includeWidth(text);
@@ -143,6 +149,7 @@ void ListWidgetFiles::dragLeaveEvent(QDragLeaveEvent * /*event*/) {}
 
 void ListWidgetFiles::dropEvent(QDropEvent *event)
 {
+    const QScopedValueRollback handling(handlesDrop, true);
     emit contentChanged(event->mimeData());
     event->acceptProposedAction();
 }

@@ -35,6 +35,9 @@ public:
     /// Lays all rows out again in the next pass of the event loop; to be called before many texts change.
     void layoutLater();
 
+    /// Whether a drop is being handled: until then the window system's drag and drop needs the native window.
+    [[nodiscard]] bool isHandlingDrop() const;
+
     /// Sets a row's text.
     void setRowText(int row, const QString &text);
 
@@ -69,6 +72,7 @@ private:
     FileItemDelegate *delegate;
     QTimer layoutTimer;
     QElapsedTimer sinceLayout;
+    bool handlesDrop = false;
     bool layoutRequested = false;
     qint64 layoutCost = 0; ///< of the last layout, in nanoseconds
     int firstAddedRow =
