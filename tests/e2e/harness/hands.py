@@ -42,8 +42,11 @@ class Hands:
         self._do("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2,
                  "click", "--delay", 1, "--repeat", clicks, button)
 
-    def drag(self, start, target, accepted):
-        """Drags from one point to another; lets go when accepted() is true of what is below the mouse."""
+    def drag(self, start, target, grasped, accepted):
+        """Drags from one point to another; lets go when accepted() is true of what is below the mouse.
+
+        Answers False, and drags nothing, when grasped() tells after the press that it took hold of something else.
+        """
         x, y = target
         rounds = 0
 
@@ -58,9 +61,11 @@ class Hands:
 
         self._do("mousemove", *start, "mousedown", LEFT)
         try:
+            if not grasped():
+                return False
             for step in range(1, DRAG_STEPS):
                 self._do("mousemove", *(a + (b - a) * step // DRAG_STEPS for a, b in zip(start, target)))
-            until(hover, f"the drag to be accepted at {target}")
+            return until(hover, f"the drag to be accepted at {target}")
         finally:
             self._do("mouseup", LEFT)
 
