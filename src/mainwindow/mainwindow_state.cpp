@@ -114,8 +114,12 @@ void MainWindow::minimizeWindow()
     }
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    if (windowHandle())
-        windowHandle()->destroy();
+    if (QWindow *window = windowHandle()) {
+        window->destroy();
+        // Else the window that is made anew would be minimised at once.
+        window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    }
     trayIcon->show();
     if (!settings->valueByName(trayIconHint, true).toBool())
         return;
