@@ -195,8 +195,8 @@ class Opening(SettingsDialogCase):
         yield
         dialog.press("Cancel")
         dialog.wait_closed()
-        buttons = self.window.log_dock.all("push button")
-        self.window.hands.click([b for b in buttons if not b.name][0])
+        folder_button = self.window.log_dock.one("push button", "Open log directory")
+        self.window.hands.click(folder_button)
         yield
         self.window.hands.click(self.window.frame.one("tool bar").all("push button")[-1])
         yield

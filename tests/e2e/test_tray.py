@@ -88,6 +88,22 @@ class InTheTray(TrayCase):
         window.close_report()
         self.close()
 
+    def test_a_maximised_window_comes_back_maximised(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        self.desktop.run("wmctrl", "-i", "-r", self.program.x_window("Orvanto"), "-b",
+                         "add,maximized_vert,maximized_horz")
+        until(lambda: window.frame.extents.width == 1280, "the window to be maximised")
+        tray.minimize()
+        tray.click()
+        self.expect_back(window)
+        until(lambda: window.frame.extents.width == 1280, "the window to be maximised again")
+        self.screenshot("maximised")
+        tray.minimize()
+        tray.choose(RESTORE)
+        self.expect_back(window)
+        until(lambda: window.frame.extents.width == 1280, "the window to be maximised by the menu, too")
+        self.close()
+
     def test_quit_by_the_menu_asks_for_support(self):
         window, tray = self.start_with_tray(SupportUsHint="true", ShowTrayiconHint="false")
         before = self.program.settings_file.read_bytes()

@@ -9,7 +9,6 @@ import unittest
 from harness.case import Case
 from harness.desktop import Desktop
 from harness.hands import RIGHT
-from harness.mainwindow import MainWindow
 from harness.program import SETTLED, Program
 from harness.waiting import until, until_equal, until_still
 from harness.xwindows import is_above, opacity, own_windows, wait_for_menu

@@ -56,7 +56,8 @@ class FirstStart:
         until(lambda: item.has("selected"), f"{code} to be selected")
 
     def is_on_second_page(self):
-        return bool(self.dialog.all("check box"))
+        # What fades a page in can go away in the middle of the question, which is asked again then.
+        return until(lambda: (bool(self.dialog.all("check box")),), "the pages")[0]
 
     def press_next(self):
         """From page to page; after the second the dialog is gone."""
@@ -69,8 +70,8 @@ class FirstStart:
 
     @property
     def auto_check(self):
-        return self.dialog.one("check box")
+        return until(lambda: self.dialog.one("check box"), "the check box")
 
     def welcome_text(self):
         """The text of the second page; the banner has none."""
-        return self.dialog.one("label").text
+        return until(lambda: self.dialog.one("label").text, "the welcome text")
