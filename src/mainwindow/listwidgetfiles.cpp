@@ -106,7 +106,19 @@ bool ListWidgetFiles::isHandlingDrop() const
 void ListWidgetFiles::setRowText(int row, const QString &text)
 {
     delegate->includeWidth(text);
+    QSignalBlocker quiet(model());
+    if (!layoutRequested)
+        quiet.unblock();
     item(row)->setText(text);
+}
+
+void ListWidgetFiles::setPath(int row, const QString &path)
+{
+    const QSignalBlocker quiet(model());
+    item(row)->setData(Qt::UserRole, path);
+    discountPath(paths.at(row));
+    paths[row] = path;
+    countPath(path);
 }
 
 void ListWidgetFiles::doItemsLayout()

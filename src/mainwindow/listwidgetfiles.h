@@ -38,7 +38,9 @@ public:
     /// Whether a drop is being handled: until then the window system's drag and drop needs the native window.
     [[nodiscard]] bool isHandlingDrop() const;
 
-    /// Sets a row's text.
+    /// Sets a row's Qt::UserRole data. Nothing that is shown changes, and nobody else is told.
+    void setPath(int row, const QString &path);
+    /// Sets a row's text. While a layout is requested nobody else is told: it shows all texts anyway.
     void setRowText(int row, const QString &text);
 
     void doItemsLayout() override;

@@ -89,11 +89,17 @@ def titles():
             for number in xdotool("search", "--onlyvisible", "--name", ".")}
 
 
+def width_of(number):
+    shown = xdotool("getwindowgeometry", "--shell", number)
+    return int(dict(part.split("=") for part in shown).get("WIDTH", 0))
+
+
 class Window:
-    def __init__(self, title):
-        numbers = until(lambda: xdotool("search", "--onlyvisible", "--name", f"^{title}$"),
-                        f"the window {title!r}; there are {titles()}")
-        self.number = numbers[-1]
+    def __init__(self, title, least_width=0):
+        def find():
+            numbers = xdotool("search", "--onlyvisible", "--name", f"^{title}$")
+            return [number for number in numbers if width_of(number) >= least_width]
+        self.number = until(find, f"the window {title!r}; there are {titles()}")[-1]
         self.title = title
 
     def is_there(self):
@@ -161,7 +167,8 @@ class Program:
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def main_window(self):
-        window = Window("Orvanto")
+        # The splash and the boxes have the same title.
+        window = Window("Orvanto", least_width=1000)
         window.resize(MAIN_SIZE)
         return window
 
@@ -262,5 +269,6 @@ class WindowsCase(unittest.TestCase):
 
     def copy_program(self):
         """The built program with its translations in C:/Orvanto."""
-        shutil.copytree(pathlib.Path(os.environ["ORVANTO_PROGRAM"]).parent, DRIVE_C / "Orvanto")
+        shutil.copytree(pathlib.Path(os.environ["ORVANTO_PROGRAM"]).parent, DRIVE_C / "Orvanto",
+                        dirs_exist_ok=True)
         return DRIVE_C / "Orvanto" / "orvanto.exe"

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/drivenwindow.h"
-#include "support/withoutprivileges.h"
+
+#include "withoutprivileges.h"
 
 #include <QDragEnterEvent>
 #include <QDragLeaveEvent>

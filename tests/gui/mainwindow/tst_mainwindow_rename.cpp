@@ -4,7 +4,8 @@
 #include "support/boxes.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
-#include "support/withoutprivileges.h"
+
+#include "withoutprivileges.h"
 
 #include <QMap>
 #include <QProgressBar>

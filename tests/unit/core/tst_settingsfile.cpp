@@ -4,44 +4,20 @@
 #include "core/settingsstore.h"
 #include "unit/support/testfolder.h"
 
+#include "fileidentity.h"
+#include "filesizelimit.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QTest>
 
-#include <csignal>
 #include <memory>
-
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr qsizetype largestFile = 16 * 1024 * 1024;
-
-/// Writing beyond this many bytes fails, for root too.
-class FileSizeLimit final
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-        : previousHandler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &previous);
-        const rlimit limit{bytes, previous.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &previous);
-        std::signal(SIGXFSZ, previousHandler);
-    }
-    Q_DISABLE_COPY_MOVE(FileSizeLimit)
-
-private:
-    rlimit previous{};
-    void (*previousHandler)(int);
-};
 
 /// "<Settings>" and elements in it down to this depth, with a language beside them.
 QByteArray nested(int depth)
@@ -387,7 +363,7 @@ void TestSettingsFile::folderInThePlaceOfTheFile()
 
 void TestSettingsFile::pipeInThePlaceOfTheFile()
 {
-    QCOMPARE(mkfifo(QFile::encodeName(file()).constData(), 0600), 0);
+    QVERIFY(makePipe(file()));
     const auto store = newStore();
     store->load();
     QCOMPARE(language(*store), u"none"_s);

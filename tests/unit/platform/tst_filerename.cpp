@@ -4,29 +4,14 @@
 #include "platform/filerename.h"
 #include "unit/support/testfolder.h"
 
+#include "fileidentity.h"
+
 #include <QFileInfo>
 #include <QTest>
 
 #include <memory>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct stat statOf(const QString &path)
-{
-    struct stat result
-    {
-    };
-    if (lstat(QFile::encodeName(path).constData(), &result) != 0)
-        result.st_ino = 0;
-    return result;
-}
-
-} // namespace
 
 class TestFileRename final : public QObject
 {
@@ -80,11 +65,11 @@ void TestFileRename::movesTheFileItself()
     QVERIFY(QDir().mkdir(u"folder"_s));
     QVERIFY(writeFile(from, "content"));
     QVERIFY(QFile::setPermissions(from, QFile::ReadOwner));
-    const auto before = statOf(from);
+    const auto before = identityOf(from);
     QVERIFY(renameFile(folder->path(from), folder->path(to)));
-    QCOMPARE(statOf(from).st_ino, 0U);
-    QCOMPARE(statOf(to).st_ino, before.st_ino);
-    QCOMPARE(statOf(to).st_mode, before.st_mode);
+    QCOMPARE(identityOf(from).file, 0U);
+    QCOMPARE(identityOf(to).file, before.file);
+    QCOMPARE(identityOf(to).mode, before.mode);
     QCOMPARE(readFile(to), "content");
 }
 
@@ -113,13 +98,13 @@ void TestFileRename::refusesWhatExists()
     QVERIFY(QFile::link(u"file"_s, u"link"_s));
     QVERIFY(QFile::link(u"nothing"_s, u"dangling"_s));
     QVERIFY(QFile::link(u"loop"_s, u"loop"_s));
-    QCOMPARE(::link("source", "twin"), 0);
+    QVERIFY(makeHardLink(u"source"_s, u"twin"_s));
     const QStringList before = entriesOf(folder->path());
-    const auto targetBefore = statOf(target);
+    const auto targetBefore = identityOf(target);
 
     QVERIFY(!renameFile(folder->path(u"source"_s), folder->path(target)));
     QCOMPARE(entriesOf(folder->path()), before);
-    QCOMPARE(statOf(target).st_ino, targetBefore.st_ino);
+    QCOMPARE(identityOf(target).file, targetBefore.file);
     QCOMPARE(readFile(u"source"_s), "source");
     QCOMPARE(readFile(u"file"_s), "file");
     QCOMPARE(readFile(u"empty"_s), "");
@@ -199,7 +184,7 @@ void TestFileRename::caseChangeRefusesAnotherFile()
 void TestFileRename::caseChangeRefusesASecondNameOfTheSameFile()
 {
     QVERIFY(writeFile(u"photo"_s, "x"));
-    QCOMPARE(::link("photo", "PHOTO"), 0);
+    QVERIFY(makeHardLink(u"photo"_s, u"PHOTO"_s));
     QVERIFY(!renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)));
     QCOMPARE(entriesOf(folder->path()).size(), 2);
     QVERIFY(QFileInfo::exists(u"photo"_s));
@@ -226,23 +211,23 @@ void TestFileRename::folderIsMoved()
 
 void TestFileRename::pipeIsMovedWithoutBeingOpened()
 {
-    QCOMPARE(mkfifo("pipe", 0600), 0);
+    QVERIFY(makePipe(u"pipe"_s));
     QVERIFY(renameFile(folder->path(u"pipe"_s), folder->path(u"moved"_s)));
-    QVERIFY(S_ISFIFO(statOf(u"moved"_s).st_mode));
+    QVERIFY(isPipe(u"moved"_s));
 }
 
 void TestFileRename::neverCopiesAcrossFileSystems()
 {
     const QTemporaryDir memory(u"/dev/shm/orvanto-XXXXXX"_s);
     QVERIFY(memory.isValid());
-    QVERIFY2(statOf(memory.path()).st_dev != statOf(folder->path()).st_dev,
+    QVERIFY2(identityOf(memory.path()).volume != identityOf(folder->path()).volume,
              "needs a temporary folder on another file system than /dev/shm");
     QVERIFY(writeFile(u"a"_s, "content"));
-    const auto before = statOf(u"a"_s);
+    const auto before = identityOf(u"a"_s);
     QVERIFY(!renameFile(folder->path(u"a"_s), memory.filePath(u"a"_s)));
     QVERIFY(entriesOf(memory.path()).isEmpty());
     QCOMPARE(readFile(u"a"_s), "content");
-    QCOMPARE(statOf(u"a"_s).st_ino, before.st_ino);
+    QCOMPARE(identityOf(u"a"_s).file, before.file);
 }
 
 QTEST_GUILESS_MAIN(TestFileRename)

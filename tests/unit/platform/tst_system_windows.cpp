@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "platform/autostart.h"
+#include "platform/osversion.h"
+#include "platform/shell.h"
+#include "platform/taskbar.h"
+#include "platform/userdatafolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto runKey = u"HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\Run"_s;
+
+/// Runs the system's registry program; what it printed.
+QString reg(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(u"reg"_s, arguments);
+    process.waitForFinished();
+    return QString::fromLocal8Bit(process.readAllStandardOutput());
+}
+
+/// The data of the value "Pendulix Basic" as the registry program shows it; null when there is none.
+QString runValue()
+{
+    const QString shown = reg({u"query"_s, runKey, u"/v"_s, u"Pendulix Basic"_s});
+    const QString type = u"REG_SZ"_s;
+    return shown.contains(type) ? shown.section(type, 1).trimmed() : QString();
+}
+
+} // namespace
+
+class TestSystemWindows final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { reg({u"delete"_s, runKey, u"/v"_s, u"Pendulix Basic"_s, u"/f"_s}); }
+    void cleanup() { init(); }
+
+    void userDataFolderIsTheRoamingOne()
+    {
+        const QString folder = userDataFolder();
+        QCOMPARE(QDir::toNativeSeparators(folder), qEnvironmentVariable("APPDATA"));
+        QVERIFY2(folder.endsWith("/AppData/Roaming"_L1), qPrintable(folder));
+        QVERIFY(QDir(folder).exists());
+    }
+
+    void osVersionIsThatOfWindows10()
+    {
+        // Windows names itself 6.2 to programs whose manifest does not know it.
+        QCOMPARE(osVersionText(), u"10.0 - Workstation"_s);
+    }
+
+    void autoStartCommandHasBackslashesAndNoQuotes()
+    {
+        QCOMPARE(autoStartCommand(u"C:/Program Files/Ж/orvanto.exe"_s),
+                 u"C:\\Program Files\\Ж\\orvanto.exe -auto"_s);
+    }
+
+    void autoStartIsWrittenAndRemoved()
+    {
+        QVERIFY(!isAutoStartEnabled());
+        QVERIFY(setAutoStart(true));
+        const QString program = QDir::toNativeSeparators(QCoreApplication::applicationFilePath());
+        QCOMPARE(runValue(), program + " -auto"_L1);
+        QVERIFY(isAutoStartEnabled());
+        QVERIFY(setAutoStart(false));
+        QVERIFY(runValue().isNull());
+        QVERIFY(!isAutoStartEnabled());
+    }
+
+    void autoStartComparesWithoutCase()
+    {
+        const QString command = autoStartCommand(QCoreApplication::applicationFilePath());
+        for (const QString &data : {command.toUpper(), command.toLower()}) {
+            reg({u"add"_s, runKey, u"/v"_s, u"Pendulix Basic"_s, u"/d"_s, data, u"/f"_s});
+            QCOMPARE(runValue(), data);
+            QVERIFY(isAutoStartEnabled());
+        }
+    }
+
+    void autoStartOfAnotherProgramIsNotOurs()
+    {
+        reg({u"add"_s, runKey, u"/v"_s, u"Pendulix Basic"_s, u"/d"_s, u"C:\\orvanto.exe -auto"_s, u"/f"_s});
+        QVERIFY(!isAutoStartEnabled());
+    }
+
+    void taskbarIsConnectedTo()
+    {
+        QWidget widget;
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+        QVERIFY(TaskbarList::create(widget.winId()) != nullptr);
+    }
+
+    void shellIgnoresWhatDoesNotFit()
+    {
+        openWithShell(QString());
+        openWithShell(u"C:\\"_s + QString(300, u'a'));
+        openWithShell(u"C:\\"_s, QString(300, u'a'));
+    }
+};
+
+QTEST_MAIN(TestSystemWindows)
+#include "tst_system_windows.moc"
