@@ -42,7 +42,7 @@ class Hands:
         self._do("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2,
                  "click", "--delay", 1, "--repeat", clicks, button)
 
-    def drag(self, start, target, grasped, accepted):
+    def drag(self, start, target, accepted, grasped=lambda: True):
         """Drags from one point to another; lets go when accepted() is true of what is below the mouse.
 
         Answers False, and drags nothing, when grasped() tells after the press that it took hold of something else.

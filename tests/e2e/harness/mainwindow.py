@@ -160,8 +160,8 @@ class MainWindow:
             until(lambda: not self.files.has("focused"), "the file list to lose the focus")
         # The list takes the focus when a drag that it accepts comes in.
         until(lambda: self.hands.drag(self.explorer_place(path), middle_of(self.files),
-                                      lambda: self._gets_selected(path),
-                                      lambda: self.files.has("focused")), f"{path} to be dragged")
+                                      lambda: self.files.has("focused"),
+                                      lambda: self._gets_selected(path)), f"{path} to be dragged")
 
     # --- rules
 
