@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Localisation</source>
-        <translation>Wersja językowa</translation>
+        <translation>Język</translation>
     </message>
     <message>
         <source>Donate</source>

@@ -134,10 +134,9 @@ void Application::createMainWindow()
 void Application::terminate()
 {
     // During the first start there is nothing to close: the dialog ends with its event loop.
-    if (initialized)
-        mainWindow->closeQuietly();
     ended = true;
-    exit(0);
+    if (!initialized || mainWindow->closeQuietly())
+        exit(0);
 }
 
 void Application::welcome()

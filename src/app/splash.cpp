@@ -4,14 +4,27 @@
 #include "app/splash.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QThread>
+#include <QWindow>
 
 namespace {
 
 constexpr int rightMargin = 28;
 constexpr int bottomMargin = 20;
 constexpr unsigned long duration = 1500; // milliseconds
+constexpr qint64 longestMapping = 1000;  // milliseconds
+
+/// Some window systems put a window on the screen only after a round of messages: what is painted before is
+/// lost.
+void waitUntilOnScreen(const QWidget &widget)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!widget.windowHandle()->isExposed() && !timer.hasExpired(longestMapping))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+}
 
 } // namespace
 
@@ -41,6 +54,8 @@ void showSplash(const QString &text, const QPixmap &image)
     frame.show();
     frame.activateWindow();
     frame.text = text;
+    if (!image.isNull())
+        waitUntilOnScreen(frame);
     frame.repaint();
     // Deliberate: the splash holds the thread; no event is processed meanwhile.
     QThread::msleep(duration);

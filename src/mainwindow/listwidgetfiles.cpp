@@ -7,6 +7,7 @@
 
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <chrono>
@@ -97,10 +98,27 @@ void ListWidgetFiles::layoutLater()
     scheduleDelayedItemsLayout();
 }
 
+bool ListWidgetFiles::isHandlingDrop() const
+{
+    return handlesDrop;
+}
+
 void ListWidgetFiles::setRowText(int row, const QString &text)
 {
     delegate->includeWidth(text);
+    QSignalBlocker quiet(model());
+    if (!layoutRequested)
+        quiet.unblock();
     item(row)->setText(text);
+}
+
+void ListWidgetFiles::setPath(int row, const QString &path)
+{
+    const QSignalBlocker quiet(model());
+    item(row)->setData(Qt::UserRole, path);
+    discountPath(paths.at(row));
+    paths[row] = path;
+    countPath(path);
 }
 
 void ListWidgetFiles::doItemsLayout()
@@ -143,6 +161,7 @@ void ListWidgetFiles::dragLeaveEvent(QDragLeaveEvent * /*event*/) {}
 
 void ListWidgetFiles::dropEvent(QDropEvent *event)
 {
+    const QScopedValueRollback handling(handlesDrop, true);
     emit contentChanged(event->mimeData());
     event->acceptProposedAction();
 }

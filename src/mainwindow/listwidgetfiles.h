@@ -35,7 +35,12 @@ public:
     /// Lays all rows out again in the next pass of the event loop; to be called before many texts change.
     void layoutLater();
 
-    /// Sets a row's text.
+    /// Whether a drop is being handled: until then the window system's drag and drop needs the native window.
+    [[nodiscard]] bool isHandlingDrop() const;
+
+    /// Sets a row's Qt::UserRole data. Nothing that is shown changes, and nobody else is told.
+    void setPath(int row, const QString &path);
+    /// Sets a row's text. While a layout is requested nobody else is told: it shows all texts anyway.
     void setRowText(int row, const QString &text);
 
     void doItemsLayout() override;
@@ -69,6 +74,7 @@ private:
     FileItemDelegate *delegate;
     QTimer layoutTimer;
     QElapsedTimer sinceLayout;
+    bool handlesDrop = false;
     bool layoutRequested = false;
     qint64 layoutCost = 0; ///< of the last layout, in nanoseconds
     int firstAddedRow =

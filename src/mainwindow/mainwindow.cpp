@@ -192,6 +192,9 @@ void MainWindow::retranslateExplorer()
 
 void MainWindow::adjustToTexts()
 {
+    // The first-start dialog can change the language before initialize().
+    if (!buttonLogo)
+        return;
     // For screen readers: what has no text is named by its status tip.
     const auto buttons = findChildren<QAbstractButton *>();
     for (QAbstractButton *button : buttons) {

@@ -64,8 +64,9 @@ public:
     /// To be called after initialize() and before the first show. Leaves the opacity in the settings, in
     /// range.
     void restoreWindowSettings();
-    /// Closes without the request for support: the system ends the program.
-    void closeQuietly();
+    /// Closes without the request for support: the system ends the program. False when a drop is in hand: the
+    /// window closes by itself then, when it is done.
+    bool closeQuietly();
 
     /// Called when the window has been closed: with its icon in the tray it may have been hidden before.
     std::function<void()> closed;
@@ -126,4 +127,5 @@ private:
     QAction *actionRestore = nullptr; ///< of the tray's menu
     QAction *actionQuit = nullptr;    ///< of the tray's menu
     bool closesQuietly = false;
+    bool closesAfterDrop = false;
 };

@@ -38,9 +38,14 @@ void MainWindow::onFileListAdded(const QMimeData *mimeData)
 {
     // Taken before any event is processed: the data belongs to the drag.
     const QList<QUrl> urls = mimeData->urls();
-    for (const QUrl &url : urls)
+    for (const QUrl &url : urls) {
+        if (closesAfterDrop)
+            break;
         addPath(url.toLocalFile());
+    }
     ui->listWidgetFiles->showAddedRows();
+    if (closesAfterDrop)
+        QMetaObject::invokeMethod(this, &MainWindow::closeFromAnyState, Qt::QueuedConnection);
 }
 
 void MainWindow::addPath(const QString &path)

@@ -117,7 +117,7 @@ bool MainWindow::renameRow(int row)
     // No check of our own: whatever the rules made of the name, the file system's answer alone counts. A name
     // left unchanged is therefore a failure, deliberately.
     if (renameFile(folder + path.name, newPath)) {
-        ui->listWidgetFiles->item(row)->setData(Qt::UserRole, newPath);
+        ui->listWidgetFiles->setPath(row, newPath);
         return true;
     }
     AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(path.name));

@@ -208,6 +208,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
     const auto dialogs = findChildren<ProgressDialog *>();
     for (ProgressDialog *dialog : dialogs)
         dialog->reject();
+    // The adding runs within the drop, and Qt's drag and drop would go on with a native window that is gone.
+    closesAfterDrop = ui->listWidgetFiles->isHandlingDrop();
+    if (closesAfterDrop)
+        return;
     if (!closesQuietly)
         requestSupport();
     saveWindowSettings();
@@ -228,10 +232,11 @@ void MainWindow::requestSupport()
         settings->setValueByName(supportUsHint, false);
 }
 
-void MainWindow::closeQuietly()
+bool MainWindow::closeQuietly()
 {
     closesQuietly = true;
     closeFromAnyState();
+    return !closesAfterDrop;
 }
 
 void MainWindow::closeFromAnyState()

@@ -3,7 +3,6 @@
 # SPDX-License-Identifier: MIT
 """Two instances at once, which share settings and logs."""
 
-import threading
 import unittest
 import xml.etree.ElementTree as ET
 
@@ -11,27 +10,7 @@ from harness.case import Case
 from harness.mainwindow import MainWindow
 from harness.program import SETTLED, Program
 from harness.waiting import until
-
-
-class WatchedFile:
-    """Reads a file over and over while it is replaced, and keeps what it saw."""
-
-    def __init__(self, file):
-        self._file, self.contents, self._stop = file, set(), threading.Event()
-        self._thread = threading.Thread(target=self._read, daemon=True)
-        self._thread.start()
-
-    def _read(self):
-        while not self._stop.is_set():
-            try:
-                self.contents.add(self._file.read_bytes())
-            except FileNotFoundError:
-                self.contents.add(None)
-
-    def stop(self):
-        self._stop.set()
-        self._thread.join()
-        return self.contents
+from harness.watchedfile import WatchedFile
 
 
 class Instances(Case):

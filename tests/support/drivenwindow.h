@@ -45,6 +45,8 @@ public:
     {
         QDir::setCurrent(tree.path());
         SettingsStore::instance()->setFilePath(tree.path() + QStringLiteral("/config/global.xml"));
+        // Closing a window would ask for support otherwise, and wait for an answer.
+        SettingsStore::instance()->setValueByName(QStringLiteral("SupportUsHint"), false);
     }
     ~TestSettings()
     {

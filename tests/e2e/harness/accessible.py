@@ -152,7 +152,8 @@ class Accessible:
         while level:
             below = [child for (children,) in ask(level, "children") for child in children]
             level = []
-            for child, (kind, text, states, extents) in zip(below, ask(below, "role", "name", "states", "extents")):
+            for child, answers in zip(below, ask(below, "role", "name", "states", "extents")):
+                kind, text, states, extents = answers
                 if not states >> STATES["showing"] & 1:
                     continue
                 if role in (None, kind) and name in (None, text):

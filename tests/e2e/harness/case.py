@@ -7,6 +7,7 @@ import pathlib
 import re
 import shutil
 import tempfile
+import time
 import unittest
 
 from .desktop import Desktop
@@ -26,10 +27,15 @@ class Case(unittest.TestCase):
     window_manager = True
     tray = False
 
+    def run(self, result=None):
+        self._result = result or self.defaultTestResult()
+        self._faults_before = len(self._result.failures) + len(self._result.errors)
+        return super().run(self._result)
+
     def setUp(self):
         self.desktop = Desktop(self.window_manager, self.tray)
         self.addCleanup(self.desktop.stop)
-        self.addCleanup(self.screenshot, "end")
+        self.addCleanup(self.screenshot_of_the_end)
         self.folder = self.make_folder(QUIET_PLACE)
         self.home = self.folder / "home"
         self.home.mkdir()
@@ -58,6 +64,11 @@ class Case(unittest.TestCase):
         """What lies below a folder: each file's content by its path."""
         return {str(file.relative_to(folder)): file.read_text(encoding="utf-8")
                 for file in folder.rglob("*") if file.is_file()}
+
+    def screenshot_of_the_end(self):
+        """What a failed test saw last is kept apart, so that no later run overwrites it."""
+        failed = len(self._result.failures) + len(self._result.errors) > self._faults_before
+        self.screenshot(f"failed-{time.time():.0f}" if failed else "end")
 
     def start(self, text=settings_text(SETTLED), **settings):
         """Starts the program with settled settings; keywords are written with __ in place of the dot.

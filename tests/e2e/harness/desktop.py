@@ -14,6 +14,7 @@ from gi.repository import Gio, GLib
 
 from .waiting import DEADLINE, until
 
+READY = "_ORVANTO_E2E_READY"
 PR_SET_PDEATHSIG = 1
 PR_SET_CHILD_SUBREAPER = 36
 _libc = ctypes.CDLL(None, use_errno=True)
@@ -59,7 +60,8 @@ class Desktop:
         self.env["DISPLAY"] = self._start_x_server(screen)
         self._start_buses()
         if window_manager:
-            self.spawn(["openbox"])
+            # A window that comes before the window manager has taken over is never given the focus.
+            self.spawn(["openbox", "--startup", f"xprop -root -format {READY} 8s -set {READY} yes"])
             until(self._window_manager_runs, "the window manager")
         if tray:
             self.spawn(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
@@ -100,7 +102,7 @@ class Desktop:
         return connection
 
     def _window_manager_runs(self):
-        return "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
+        return '= "yes"' in self.run("xprop", "-root", READY)
 
     def _tray_runs(self):
         windows = self.run("xwininfo", "-root", "-tree")

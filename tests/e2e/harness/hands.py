@@ -6,6 +6,7 @@ from .waiting import until, until_still
 
 DRAG_STEPS = 12
 MARK = 20
+HOVER_ROUNDS = 5
 LEFT, MIDDLE, RIGHT, WHEEL_UP, WHEEL_DOWN = "1", "2", "3", "4", "5"
 
 
@@ -41,22 +42,30 @@ class Hands:
         self._do("mousemove", extents.x + extents.width // 2, extents.y + extents.height // 2,
                  "click", "--delay", 1, "--repeat", clicks, button)
 
-    def drag(self, start, target, accepted):
-        """Drags from one point to another; lets go when accepted() is true of what is below the mouse."""
+    def drag(self, start, target, grasped, accepted):
+        """Drags from one point to another; lets go when accepted() is true of what is below the mouse.
+
+        Answers False, and drags nothing, when grasped() tells after the press that it took hold of something else.
+        """
         x, y = target
+        rounds = 0
 
         def hover():
-            # A hand is never quite still; a drag that is slow to start gets its moves, too.
-            nonlocal x
+            # A hand is never quite still, and does not let go in the very moment of arrival: a drag that is slow
+            # to start gets its moves, too, and the program can tell that it would take a drop here.
+            nonlocal x, rounds
             x = target[0] + (x == target[0])
             self._do("mousemove", x, y)
-            return accepted()
+            rounds = rounds + 1 if accepted() else 0
+            return rounds > HOVER_ROUNDS
 
         self._do("mousemove", *start, "mousedown", LEFT)
         try:
+            if not grasped():
+                return False
             for step in range(1, DRAG_STEPS):
                 self._do("mousemove", *(a + (b - a) * step // DRAG_STEPS for a, b in zip(start, target)))
-            until(hover, f"the drag to be accepted at {target}")
+            return until(hover, f"the drag to be accepted at {target}")
         finally:
             self._do("mouseup", LEFT)
 

@@ -15,6 +15,7 @@ from .waiting import Gone, until, until_equal, until_still
 REPORT = "alert message"
 WHEEL_ROWS = 3
 SCROLL_BAR = 18
+PATIENCE = 3
 
 
 class MainWindow:
@@ -111,8 +112,23 @@ class MainWindow:
             return self.explorer_row(folder).has("expanded")
 
         if not until(lambda: (is_open(),), f"{folder} in the explorer")[0]:
-            self.hands.click_at(*self._place_in_view(folder), repeat=2)
+            self._click_row(folder)
+            self.hands.keys("Right")
             until(is_open, f"{folder} to open")
+
+    def _click_row(self, path, hold=None):
+        def is_hit():
+            self.hands.click_at(*self._place_in_view(path), hold=hold)
+            return self._gets_selected(path)
+
+        until(is_hit, f"{path} to be selected")
+
+    def _gets_selected(self, path):
+        """Whether a press selects the row; rows may have moved since its place was found."""
+        try:
+            return until(lambda: self.explorer_row(path).has("selected"), f"{path} to be selected", PATIENCE)
+        except AssertionError:
+            return False
 
     def _place_in_view(self, path):
         def find_place():
@@ -134,8 +150,8 @@ class MainWindow:
         return until(find_place, f"{path} to come into view")
 
     def select_in_explorer(self, path, hold=None):
-        self.hands.click_at(*self.explorer_place(path), hold=hold)
-        until(lambda: self.explorer_row(path).has("selected"), f"{path} to be selected")
+        self.explorer_place(path)
+        self._click_row(path, hold)
 
     def add_by_drag(self, path):
         """Drags a row of the explorer, with all that is selected there, onto the file list."""
@@ -143,7 +159,9 @@ class MainWindow:
             self.hands.click(self.filter_edit)
             until(lambda: not self.files.has("focused"), "the file list to lose the focus")
         # The list takes the focus when a drag that it accepts comes in.
-        self.hands.drag(self.explorer_place(path), middle_of(self.files), lambda: self.files.has("focused"))
+        until(lambda: self.hands.drag(self.explorer_place(path), middle_of(self.files),
+                                      lambda: self._gets_selected(path),
+                                      lambda: self.files.has("focused")), f"{path} to be dragged")
 
     # --- rules
 

@@ -35,6 +35,7 @@ private slots:
 
     void switchingRetranslatesOpenWindows_data();
     void switchingRetranslatesOpenWindows();
+    void languageMayChangeBeforeTheWindowIsInitialized();
     void nothingIsClipped_data();
     void nothingIsClipped();
 
@@ -138,6 +139,17 @@ void TestLanguages::switchingRetranslatesOpenWindows()
     QCOMPARE(kinds->count(), 5);
     QCOMPARE(pages->currentIndex(), 2);
     QCOMPARE(rules->indexOfTopLevelItem(rules->currentItem()), 1);
+}
+
+void TestLanguages::languageMayChangeBeforeTheWindowIsInitialized()
+{
+    // Crashed once: the first-start dialog changes the language of a window without its logo and docks.
+    MainWindow window({});
+    const InstalledLanguage language(u"de_DE"_s);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(window.findChild<QPushButton *>(u"buttonRename"_s)->text(), u"Umbenennen"_s);
+    window.initialize();
+    QVERIFY(!window.findChild<QPushButton *>(u"buttonLogo"_s)->accessibleName().isEmpty());
 }
 
 void TestLanguages::nothingIsClipped_data()

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalMapper>
+#include <QSystemTrayIcon>
 #include <QTableWidget>
 #include <QTest>
 #include <QTranslator>
@@ -377,6 +378,15 @@ private slots:
         QCOMPARE(window->child<QDockWidget>("dockWidgetExplorer")->windowTitle(), u"File Explorer"_s);
         QCOMPARE(window->child<QPushButton>("buttonRename")->text(), u"Rename"_s);
         QCOMPARE(comboBox->currentText(), u"Trim"_s);
+    }
+
+    void withoutASystemTrayMinimizingToItIsForcedOff()
+    {
+        QVERIFY(!QSystemTrayIcon::isSystemTrayAvailable());
+        SettingsStore::instance()->setValue(SettingKey::MiscMinimizeToTrayIcon, true);
+        const DrivenWindow next;
+        QCOMPARE(stored(SettingKey::MiscMinimizeToTrayIcon), u"false"_s);
+        QVERIFY(!next->findChild<QSystemTrayIcon *>());
     }
 
     void closeSavesTheSettingsFile()

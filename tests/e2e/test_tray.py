@@ -1,0 +1,153 @@
+#!/usr/bin/python3
+# SPDX-FileCopyrightText: 2026 Kavrondel
+# SPDX-License-Identifier: MIT
+"""The window in the system tray and back, with a real tray and without any."""
+
+import unittest
+
+from harness.case import Case
+from harness.mainwindow import MainWindow
+from harness.program import SETTLED, Program
+from harness.tray import QUIT, RESTORE, Tray
+from harness.waiting import until
+from harness.xwindows import is_iconic, opacity
+
+
+class TrayCase(Case):
+    def start_minimized(self, **settings):
+        """Starts the program; there is no main window to wait for."""
+        settings = {name.replace("__", "."): text for name, text in settings.items()}
+        self.program = Program(self.desktop, self.home, settings={
+            **SETTLED, "Misc.MinimizeOnStart": "true", "Misc.MinimizeToTrayIcon": "true", **settings}).start()
+
+    def expect_opacity(self, expected):
+        number = self.program.x_window("Orvanto")
+        until(lambda: abs(opacity(self.desktop, number) - expected) < 0.005, f"the opacity {expected}")
+
+
+class InTheTray(TrayCase):
+    tray = True
+
+    def start_with_tray(self, **settings):
+        window = self.start(Misc__MinimizeToTrayIcon="true", **settings)
+        return window, Tray(self.program)
+
+    def expect_back(self, window):
+        until(lambda: self.program.x_window("Orvanto"), "the main window to be back")
+        until(lambda: window.frame.has("showing") and window.frame.has("active"), "the main window to be active")
+
+    def test_click_takes_the_icon_away_and_the_menu_keeps_it(self):
+        window, tray = self.start_with_tray()
+        self.assertIsNone(tray.icon(), "the icon is shown before the window goes there")
+        tray.minimize()
+        until(tray.balloons, "the balloon")
+        self.screenshot("balloon")
+        tray.click()
+        self.expect_back(window)
+        until(lambda: tray.icon() is None, "the icon to go")
+        self.assertEqual(tray.balloons(), [])
+
+        tray.minimize()
+        menu = tray.open_menu()
+        self.screenshot("menu")
+        self.assertEqual(tray.balloons(), [], "the balloon came a second time")
+        self.assertIsNone(self.program.x_window("Orvanto"), "the menu brought the window back")
+        tray.click_in(menu, RESTORE)
+        self.expect_back(window)
+        self.assertIsNotNone(tray.icon(), "Restore took the icon away")
+        self.screenshot("restored")
+
+        # The icon that stayed takes the next click as any other.
+        tray.minimize()
+        tray.click()
+        self.expect_back(window)
+        until(lambda: tray.icon() is None, "the icon to go")
+        self.close()
+        settings = self.program.settings()
+        self.assertEqual((settings["ShowTrayiconHint"], settings["Misc.MinimizeToTrayIcon"]), ("false", "true"))
+
+        self.start_again()
+        tray = Tray(self.program)
+        tray.minimize()
+        tray.open_menu()
+        self.assertEqual(tray.balloons(), [], "the balloon came in a second run")
+
+    def test_the_window_is_the_same_after_the_tray(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false", Window__Opacity="0.75")
+        window.add_by_drag(self.make_files(["a.txt"]))
+        window.expect_files(["a.txt"])
+        before = window.frame.extents
+        tray.minimize()
+        tray.click()
+        self.expect_back(window)
+        window.expect_files(["a.txt"])
+        self.assertEqual(window.frame.extents[2:], before[2:], "the size")
+        self.expect_opacity(0.75)
+        window.add_rule("Insert Text", texts=["new_"], numbers=[0], choice="Start")
+        self.assertEqual(window.rename(), "Total 1\nProcessed 1\nFailed 0")
+        window.close_report()
+        self.close()
+
+    def test_quit_by_the_menu_asks_for_support(self):
+        window, tray = self.start_with_tray(SupportUsHint="true", ShowTrayiconHint="false")
+        before = self.program.settings_file.read_bytes()
+        window.toggle(window.log_dock.one("check box", "Save"))
+        tray.minimize()
+        tray.choose(QUIT)
+        notice = self.program.window("dialog", "Advice")
+        until(lambda: notice.has("active"), "the notice to be active")
+        self.screenshot("notice")
+        self.assertIsNone(self.program.x_window("Orvanto"), "the notice brought the window back")
+        self.assertEqual(self.program.settings_file.read_bytes(), before, "saved before the answer")
+        tray.hands.click(notice.one("push button", "Close"))
+        self.assertEqual(self.program.wait(), 0)
+        self.assertEqual((self.program.stdout, self.program.stderr), ("", ""))
+        settings = self.program.settings()
+        self.assertEqual((settings["Log.Save"], settings.get("SupportUsHint")), ("true", "true"))
+
+    def test_quit_by_the_menu_without_a_question(self):
+        _, tray = self.start_with_tray(ShowTrayiconHint="false")
+        tray.minimize()
+        tray.choose(QUIT)
+        self.assertEqual(self.program.wait(), 0)
+        self.assertEqual((self.program.stdout, self.program.stderr), ("", ""))
+        self.assertEqual(self.program.settings()["@version"], "1.2.0.5")
+
+    def test_minimized_on_start(self):
+        self.start_minimized(Window__Opacity="0.5")
+        tray = Tray(self.program)
+        tray.wait_for_icon()
+        until(tray.balloons, "the balloon")
+        self.assertIsNone(self.program.x_window("Orvanto"))
+        self.screenshot("tray-only")
+        tray.click()
+        window = MainWindow(self.program)
+        self.expect_back(window)
+        self.expect_opacity(0.5)
+        self.close()
+        self.assertEqual(self.program.settings()["Window.Opacity"], "0.5")
+
+
+class WithoutTray(TrayCase):
+    def test_minimized_to_the_task_bar_instead(self):
+        window = self.start(Misc__MinimizeToTrayIcon="true")
+        number = self.program.x_window("Orvanto")
+        self.desktop.run("xdotool", "windowminimize", number)
+        until(lambda: is_iconic(self.desktop, number), "the window to be minimised")
+        window.activate()
+        self.close()
+        self.assertEqual(self.program.settings()["Misc.MinimizeToTrayIcon"], "false")
+
+    def test_minimized_on_start(self):
+        self.start_minimized()
+        number = until(lambda: self.program.x_window("Orvanto"), "the main window")
+        until(lambda: is_iconic(self.desktop, number), "the window to be minimised")
+        self.desktop.run("wmctrl", "-i", "-a", number)
+        MainWindow(self.program)
+        self.expect_opacity(1)
+        self.close()
+        self.assertEqual(self.program.settings()["Misc.MinimizeToTrayIcon"], "false")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "app/application.h"
+#include "core/settingsstore.h"
+#include "mainwindow/mainwindow.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+/// The application object after a start-up with settings of its own.
+class TestApplication final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hasItsIdentity();
+    void publishesTheValidationPatterns_data();
+    void publishesTheValidationPatterns();
+    void worksInTheDataFolder();
+    void logsTheStartInOrder();
+    void windowGetsTheStoredOpacity();
+};
+
+namespace {
+
+MainWindow *mainWindow()
+{
+    const auto widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        if (auto *window = qobject_cast<MainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void TestApplication::hasItsIdentity()
+{
+    QCOMPARE(QCoreApplication::applicationName(), u"Orvanto"_s);
+    QCOMPARE(QCoreApplication::applicationVersion(), u"1.2.0.5"_s);
+    QCOMPARE(QCoreApplication::organizationName(), u"Kavrondel"_s);
+    QCOMPARE(QCoreApplication::organizationDomain(), u"kavrondel.example"_s);
+    QVERIFY(mainWindow());
+    QCOMPARE(mainWindow()->windowTitle(), u"Orvanto"_s);
+}
+
+void TestApplication::publishesTheValidationPatterns_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::newRow("valid_dirpath") << u"[^(*|?|<|>)]*"_s;
+    QTest::newRow("valid_xmlentry") << u"[^('|<|>)]*"_s;
+    QTest::newRow("valid_url") << u"[^(*|?|\"|<|>|@)]*"_s;
+    QTest::newRow("valid_filename") << u"[^(\\|\\\\|/|*|?|\"|'|<|>|:)]*"_s;
+}
+
+void TestApplication::publishesTheValidationPatterns()
+{
+    // Deliberate: parentheses and bars stand inside the classes.
+    QFETCH(QString, pattern);
+    QCOMPARE(qApp->property(QTest::currentDataTag()).toString(), pattern);
+}
+
+void TestApplication::worksInTheDataFolder()
+{
+    const QString dataHome = QDir(qEnvironmentVariable("XDG_DATA_HOME")).canonicalPath();
+    QCOMPARE(QDir::currentPath(), dataHome + "/Kavrondel/Orvanto"_L1);
+}
+
+void TestApplication::logsTheStartInOrder()
+{
+    const auto *table = mainWindow()->findChild<QTableWidget *>(u"tableWidgetLog"_s);
+    QTRY_VERIFY(table->rowCount() >= 6);
+    QStringList lines;
+    for (int row = table->rowCount() - 1; row >= 0; --row)
+        lines.append(table->item(row, 1)->text());
+    QVERIFY2(lines.value(2).startsWith("OS version "_L1), qPrintable(lines.value(2)));
+    lines.removeAt(2);
+    lines.removeIf([](const QString &line) { return line.startsWith("This plugin"_L1); });
+    QCOMPARE(lines, (QStringList{u"Orvanto started"_s, u"App version 1.2.0.5"_s, u"running in 64-bit mode"_s,
+                                 u"languages loaded"_s, u"initialization complete"_s}));
+}
+
+void TestApplication::windowGetsTheStoredOpacity()
+{
+    // A window keeps its opacity in steps of 1/255.
+    QVERIFY(std::abs(mainWindow()->windowOpacity() - 0.5) < 1.0 / 255);
+}
+
+int main(int argc, char **argv)
+{
+    const QString before = QDir::currentPath();
+    const QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    QDir().mkpath(home.filePath(u"Kavrondel/Orvanto/config"_s));
+    QFile file(home.filePath(u"Kavrondel/Orvanto/config/global.xml"_s));
+    if (!file.open(QIODevice::WriteOnly))
+        return 1;
+    file.write("<Settings><Misc><IsFirstStart>false</IsFirstStart><DisableSplashScreen>true</"
+               "DisableSplashScreen></Misc>"
+               "<Window><Opacity>0.5</Opacity></Window><SupportUsHint>false</SupportUsHint></Settings>");
+    file.close();
+    int result = 0;
+    {
+        Application application(argc, argv);
+        application.init();
+        TestApplication test;
+        result = QTest::qExec(&test, argc, argv);
+    }
+    QDir::setCurrent(before);
+    return result;
+}
+#include "tst_application.moc"

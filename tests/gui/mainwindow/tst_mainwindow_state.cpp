@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "support/drivenwindow.h"
+
+#include <QContextMenuEvent>
+#include <QDockWidget>
+#include <QMenu>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// What the window keeps over its end.
+class MainWindowState final : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void opacityIsStoredWithTwoDecimals_data();
+    void opacityIsStoredWithTwoDecimals();
+    void opacityOutOfRangeBecomesFullAndIsWrittenBack_data();
+    void opacityOutOfRangeBecomesFullAndIsWrittenBack();
+    void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
+    void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
+    void menuChecksTheEntryBelow_data();
+    void menuChecksTheEntryBelow();
+
+private:
+    std::unique_ptr<TestSettings> settings;
+};
+
+void MainWindowState::init()
+{
+    settings = std::make_unique<TestSettings>();
+}
+
+void MainWindowState::cleanup()
+{
+    settings.reset();
+}
+
+void MainWindowState::opacityIsStoredWithTwoDecimals_data()
+{
+    QTest::addColumn<double>("opacity");
+    QTest::addColumn<QString>("stored");
+    // A window keeps its opacity in steps of 1/255; the rounding gives back what was set.
+    QTest::newRow("quarter") << 0.25 << u"0.25"_s;
+    QTest::newRow("half") << 0.5 << u"0.5"_s;
+    QTest::newRow("in between") << 0.85 << u"0.85"_s;
+    QTest::newRow("full") << 1.0 << u"1"_s;
+}
+
+void MainWindowState::opacityIsStoredWithTwoDecimals()
+{
+    QFETCH(double, opacity);
+    QFETCH(QString, stored);
+    MainWindow window({});
+    window.setWindowOpacity(opacity);
+    window.show();
+    window.close();
+    QCOMPARE(SettingsStore::instance()->value(SettingKey::WindowOpacity, {}).toString(), stored);
+}
+
+void MainWindowState::opacityOutOfRangeBecomesFullAndIsWrittenBack_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("restored");
+    QTest::newRow("too small") << u"0.1"_s << u"1"_s;
+    QTest::newRow("too large") << u"1.01"_s << u"1"_s;
+    QTest::newRow("no number") << u"half"_s << u"1"_s;
+    QTest::newRow("not a number") << u"nan"_s << u"1"_s;
+    QTest::newRow("smallest") << u"0.25"_s << u"0.25"_s;
+    QTest::newRow("three decimals") << u"0.856"_s << u"0.86"_s;
+}
+
+void MainWindowState::opacityOutOfRangeBecomesFullAndIsWrittenBack()
+{
+    QFETCH(QString, stored);
+    QFETCH(QString, restored);
+    SettingsStore::instance()->setValue(SettingKey::WindowOpacity, stored);
+    MainWindow window({});
+    window.initialize();
+    window.restoreWindowSettings();
+    QCOMPARE(SettingsStore::instance()->value(SettingKey::WindowOpacity, {}).toString(), restored);
+}
+
+void MainWindowState::geometryAndLayoutAreLeftAloneWhileRestoringIsOff()
+{
+    SettingsStore *store = SettingsStore::instance();
+    store->setValue(SettingKey::WindowGeometryRestore, false);
+    store->setValue(SettingKey::WindowLayoutRestore, false);
+    store->setValue(SettingKey::WindowGeometryData, u"stale"_s);
+    store->setValue(SettingKey::WindowLayoutData, u"stale"_s);
+    MainWindow window({});
+    window.initialize();
+    window.restoreWindowSettings();
+    window.show();
+    window.close();
+    QCOMPARE(store->value(SettingKey::WindowGeometryData, {}).toString(), u"stale"_s);
+    QCOMPARE(store->value(SettingKey::WindowLayoutData, {}).toString(), u"stale"_s);
+}
+
+void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
+{
+    MainWindow window({});
+    window.initialize();
+    window.restoreWindowSettings();
+    window.show();
+    QVERIFY(!window.findChild<QDockWidget *>(u"dockWidgetLog"_s)->isVisible());
+    QVERIFY(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isVisible());
+    window.close();
+    QCOMPARE(SettingsStore::instance()->value(SettingKey::MiscIsFirstStart, {}).toString(), u"false"_s);
+}
+
+void MainWindowState::menuChecksTheEntryBelow_data()
+{
+    QTest::addColumn<double>("opacity");
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("quarter") << 0.25 << u"Opacity 25%"_s;
+    QTest::newRow("half") << 0.5 << u"Opacity 50%"_s;
+    QTest::newRow("in between") << 0.6 << u"Opacity 50%"_s;
+    QTest::newRow("three quarters") << 0.75 << u"Opacity 75%"_s;
+    QTest::newRow("full") << 1.0 << u"Opacity 100%"_s;
+    QTest::newRow("deliberate: nothing checks full") << 0.0 << u"Opacity 100%"_s;
+}
+
+void MainWindowState::menuChecksTheEntryBelow()
+{
+    QFETCH(double, opacity);
+    QFETCH(QString, entry);
+    MainWindow window({});
+    window.show();
+    window.setWindowOpacity(opacity);
+    QStringList entries;
+    QStringList checked;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &window, [&] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        const auto actions = menu->actions();
+        for (const QAction *action : actions) {
+            entries.append(action->text());
+            if (action->isChecked())
+                checked.append(action->text());
+        }
+        menu->close();
+    });
+    poll.start(1);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, window.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&window, &event);
+    QCOMPARE(checked, QStringList{entry});
+    QCOMPARE(entries, (QStringList{u"Opacity 25%"_s, u"Opacity 50%"_s, u"Opacity 75%"_s, u"Opacity 100%"_s,
+                                   QString(), u"Stay on Top"_s}));
+    QVERIFY(event.isAccepted());
+}
+
+QTEST_MAIN(MainWindowState)
+#include "tst_mainwindow_state.moc"
