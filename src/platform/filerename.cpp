@@ -21,7 +21,9 @@ public:
 
 bool renameFile(const QString &from, const QString &to)
 {
+    if (const std::optional<bool> renamed = renameWithoutReplacing(from, to))
+        return *renamed;
     // QFile knows what is left: a change of case alone where case does not matter, and file systems that
     // cannot refuse to replace.
-    return renameWithoutReplacing(from, to) || UncopiedFile(from).rename(to);
+    return UncopiedFile(from).rename(to);
 }

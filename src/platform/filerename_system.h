@@ -5,6 +5,8 @@
 
 #include <QString>
 
-/// Renames by the one system call that refuses to replace, where the system has one. False when it did not
-/// rename, for whatever reason.
-[[nodiscard]] bool renameWithoutReplacing(const QString &from, const QString &to);
+#include <optional>
+
+/// Renames by the one system call that neither replaces nor copies. Whether it did; no value where it cannot
+/// tell, or the system has no such call, and QFile is to be asked.
+[[nodiscard]] std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to);

@@ -9,17 +9,19 @@
 
 #include <fcntl.h>
 
-bool renameWithoutReplacing(const QString &from, const QString &to)
+std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to)
 {
 #ifdef RENAME_NOREPLACE
     // The system would read a name up to its first null character only, and rename another file.
     if (from.contains(QChar::Null) || to.contains(QChar::Null))
-        return false;
-    return renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD,
-                     QFile::encodeName(to).constData(), RENAME_NOREPLACE) == 0;
+        return std::nullopt;
+    if (renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD, QFile::encodeName(to).constData(),
+                  RENAME_NOREPLACE) == 0)
+        return true;
+    return std::nullopt;
 #else
     Q_UNUSED(from)
     Q_UNUSED(to)
-    return false;
+    return std::nullopt;
 #endif
 }

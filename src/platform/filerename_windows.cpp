@@ -3,8 +3,43 @@
 
 #include "platform/filerename_system.h"
 
-bool renameWithoutReplacing(const QString & /*from*/, const QString & /*to*/)
+#include <QDir>
+
+#include <windows.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The path as Windows reads it (a device for "CON", no dots and blanks at the end), without its limit of 260
+/// characters; empty when it cannot be read.
+QString extendedPath(const QString &path)
 {
-    // QFile::rename needs no help here: MoveFile refuses to replace.
-    return false;
+    const QString native = QDir::toNativeSeparators(path);
+    const auto *name = reinterpret_cast<const wchar_t *>(native.utf16());
+    QString full(GetFullPathNameW(name, 0, nullptr, nullptr), QChar::Null);
+    full.resize(GetFullPathNameW(name, static_cast<DWORD>(full.size()),
+                                 reinterpret_cast<wchar_t *>(full.data()), nullptr));
+    if (full.isEmpty() || full.startsWith("\\\\.\\"_L1) || full.startsWith("\\\\?\\"_L1))
+        return full;
+    if (full.startsWith("\\\\"_L1))
+        return "\\\\?\\UNC\\"_L1 + full.sliced(2);
+    return "\\\\?\\"_L1 + full;
+}
+
+} // namespace
+
+std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to)
+{
+    // The system would read a name up to its first null character only, and rename another file.
+    if (from.isEmpty() || to.isEmpty() || from.contains(QChar::Null) || to.contains(QChar::Null))
+        return false;
+    const QString source = extendedPath(from);
+    const QString target = extendedPath(to);
+    // Moving a file onto itself succeeds; here it is a target that exists.
+    if (source.isEmpty() || target.isEmpty() || source == target)
+        return false;
+    // QFile::rename is not asked: MoveFile copies onto other drives.
+    return MoveFileExW(reinterpret_cast<const wchar_t *>(source.utf16()),
+                       reinterpret_cast<const wchar_t *>(target.utf16()), 0) != FALSE;
 }

@@ -24,7 +24,9 @@ OPTIONS = (
 
 problems = []
 checked = [path for path in sources.files(["src"], {".cpp"}) if path.stem.endswith("_windows")]
-includes = [option for folder in os.environ["QT_INCLUDES"].split(":") for option in ("-isystem", folder)]
+# The folder of this system's own headers is among them, for OpenGL's; those are not for Windows.
+folders = [folder for folder in os.environ["QT_INCLUDES"].split(":") if folder != "/usr/include"]
+includes = [option for folder in folders for option in ("-isystem", folder)]
 if shutil.which(COMPILER) is None:
     problems.append(f"{COMPILER} is missing: install the package g++-mingw-w64-x86-64-posix, as ./test does.")
 else:

@@ -148,6 +148,17 @@ class Program(WindowsCase):
         for message in ("App version 1.2.0.5", "OS version 10.0 - Workstation", "running in 64-bit mode"):
             self.assertTrue([line for line in messages if message in line.replace('"', "")], messages)
 
+    def test_log_folder_is_opened_by_the_shell(self):
+        program, window = self.start_settled()
+        before = harness.titles()
+        window.click(OPEN_LOG_FOLDER)
+        (title,) = until(lambda: harness.titles() - before, "the explorer")
+        self.assertIn("logs", title)
+        explorer = Window(title)
+        explorer.close()
+        explorer.until_closed()
+        self.close(program, window)
+
     # --- renaming
 
     def test_names_outside_the_code_page(self):

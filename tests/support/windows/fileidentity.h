@@ -18,7 +18,7 @@ struct FileIdentity
 
 inline QString extendedPath(const QString &path)
 {
-    return "\\\\?\\" + QDir::toNativeSeparators(QDir::current().absoluteFilePath(path));
+    return QLatin1String("\\\\?\\") + QDir::toNativeSeparators(QDir::current().absoluteFilePath(path));
 }
 
 inline FileIdentity identityOf(const QString &path)

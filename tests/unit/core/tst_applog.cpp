@@ -60,7 +60,11 @@ private slots:
     void destroyingTheLogClosesItsFile();
 
 private:
-    [[nodiscard]] QByteArray written() const { return readFile(logFile()); }
+    [[nodiscard]] QByteArray written() const
+    {
+        // Lines end as the system's text files do.
+        return readFile(logFile()).replace("\r\n", "\n");
+    }
     [[nodiscard]] QStringList writtenTexts() const
     {
         return textsOf(QString::fromLatin1(written()).split(u'\n', Qt::SkipEmptyParts));
