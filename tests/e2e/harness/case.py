@@ -6,6 +6,7 @@ import os
 import pathlib
 import re
 import shutil
+import sys
 import tempfile
 import time
 import unittest
@@ -33,12 +34,12 @@ class Case(unittest.TestCase):
         return super().run(self._result)
 
     def setUp(self):
-        self.desktop = Desktop(self.window_manager, self.tray)
-        self.addCleanup(self.desktop.stop)
-        self.addCleanup(self.screenshot_of_the_end)
         self.folder = self.make_folder(QUIET_PLACE)
         self.home = self.folder / "home"
         self.home.mkdir()
+        self.desktop = Desktop(self.window_manager, self.tray)
+        self.addCleanup(self.desktop.stop)
+        self.addCleanup(self.look_at_the_end)
 
     def make_folder(self, place=None):
         """A temporary folder that is removed after the test."""
@@ -65,10 +66,17 @@ class Case(unittest.TestCase):
         return {str(file.relative_to(folder)): file.read_text(encoding="utf-8")
                 for file in folder.rglob("*") if file.is_file()}
 
-    def screenshot_of_the_end(self):
+    def look_at_the_end(self):
         """What a failed test saw last is kept apart, so that no later run overwrites it."""
-        failed = len(self._result.failures) + len(self._result.errors) > self._faults_before
-        self.screenshot(f"failed-{time.time():.0f}" if failed else "end")
+        if len(self._result.failures) + len(self._result.errors) == self._faults_before:
+            self.screenshot("end")
+            return
+        self.screenshot(f"failed-{time.time():.0f}")
+        for command, code in self.desktop.ended():
+            print(f"\n{command} ended with {code}", file=sys.stderr)
+        for file in sorted(self.home.glob("output-*")):
+            if file.stat().st_size:
+                print(f"{file.name}: {file.read_text(errors='replace')}", file=sys.stderr)
 
     def start(self, text=settings_text(SETTLED), **settings):
         """Starts the program with settled settings; keywords are written with __ in place of the dot.

@@ -123,6 +123,10 @@ class Desktop:
         return subprocess.run(command, env=self.env, stdin=subprocess.DEVNULL, capture_output=True, text=True,
                               timeout=DEADLINE, check=False).stdout
 
+    def ended(self):
+        """The processes that have ended by themselves: command and exit code, negative for a signal."""
+        return [(process.args[0], process.returncode) for process in self._processes if process.poll() is not None]
+
     def screenshot(self, file):
         file.parent.mkdir(parents=True, exist_ok=True)
         self.run("import", "-window", "root", str(file))
