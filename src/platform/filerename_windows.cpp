@@ -39,7 +39,11 @@ std::optional<bool> renameWithoutReplacing(const QString &from, const QString &t
     // Moving a file onto itself succeeds; here it is a target that exists.
     if (source.isEmpty() || target.isEmpty() || source == target)
         return false;
+    const auto *targetName = reinterpret_cast<const wchar_t *>(target.utf16());
+    // So may moving one of two names of a file onto the other.
+    const bool onlyCase = source.compare(target, Qt::CaseInsensitive) == 0;
+    if (!onlyCase && GetFileAttributesW(targetName) != INVALID_FILE_ATTRIBUTES)
+        return false;
     // QFile::rename is not asked: MoveFile copies onto other drives.
-    return MoveFileExW(reinterpret_cast<const wchar_t *>(source.utf16()),
-                       reinterpret_cast<const wchar_t *>(target.utf16()), 0) != FALSE;
+    return MoveFileExW(reinterpret_cast<const wchar_t *>(source.utf16()), targetName, 0) != FALSE;
 }
