@@ -11,6 +11,11 @@
 
 #include <functional>
 
+enum RulePage { ReplacePage, TrimPage, ChangeCasePage, InsertTextPage, EnumeratePage };
+
+/// Sets the application's look, as at every start; needs the QApplication.
+void prepareBenchmark();
+
 /// Seconds that an action takes.
 inline double secondsOf(const std::function<void()> &action)
 {

@@ -5,21 +5,12 @@
 
 #include "bench.h"
 
-#include "app/look.h"
-#include "rules/ruleinserttext.h"
-#include "rules/rulereplace.h"
-
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <QToolButton>
 #include <QUrl>
 
 #include <cstdio>
@@ -31,10 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int filesPerFolder = 1000;
-
-enum RulePage { ReplacePage, TrimPage, ChangeCasePage, InsertTextPage, EnumeratePage };
 
 qint64 residentBytes()
 {
@@ -158,75 +145,6 @@ void measureRemoving(Bench &bench, const FileTree &tree)
 
 } // namespace
 
-FileTree::FileTree(int fileCount)
-    : count(fileCount)
-{
-    QTemporaryDir directory(u"/dev/shm/orvanto-benchmark-XXXXXX"_s);
-    directory.setAutoRemove(false);
-    folder = directory.path();
-    for (int i = 0; i < count; ++i) {
-        if (i % filesPerFolder == 0)
-            QDir().mkdir(folder + u"/folder%1"_s.arg(i / filesPerFolder, 4, 10, QChar(u'0')));
-        close(open(QFile::encodeName(path(i)).constData(), O_CREAT | O_WRONLY, 0600));
-    }
-}
-
-FileTree::~FileTree()
-{
-    QDir(folder).removeRecursively();
-}
-
-QString FileTree::path(int file) const
-{
-    return folder + u"/folder%1/IMG_%2.JPG"_s.arg(file / filesPerFolder, 4, 10, QChar(u'0'))
-                        .arg(file, 7, 10, QChar(u'0'));
-}
-
-Bench::Bench()
-    : window({})
-    , list(nullptr)
-{
-    window.initialize();
-    window.show();
-    list = window.findChild<ListWidgetFiles *>(u"listWidgetFiles"_s);
-    auto *pages = window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s);
-    auto *replace = qobject_cast<RuleWidgetReplace *>(pages->widget(ReplacePage));
-    replace->lineEditReplaceWhat->setText(u"IMG_(\\d+)"_s);
-    replace->lineEditReplaceWith->setText(u"Holiday \\1"_s);
-    replace->toolButtonRegExp->setChecked(true);
-    auto *insert = qobject_cast<RuleWidgetInsertText *>(pages->widget(InsertTextPage));
-    insert->lineEditText->setText(u"new_"_s);
-}
-
-void Bench::addRule(int page)
-{
-    window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s)->setCurrentIndex(page);
-    window.on_buttonAddRule_clicked();
-}
-
-void Bench::clearRules()
-{
-    window.onClickedRuleList(8);
-}
-
-double Bench::rename()
-{
-    QElapsedTimer timer;
-    double seconds = 0;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, &window, [&] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box)
-            return;
-        seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
-        box->accept();
-    });
-    closer.start(1);
-    timer.start();
-    window.on_buttonRename_clicked();
-    return seconds;
-}
-
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -234,8 +152,7 @@ int main(int argc, char **argv)
     const QTemporaryDir dataDirectory;
     QDir::setCurrent(dataDirectory.path());
     const QApplication application(argc, argv);
-    QApplication::setStyle(u"Fusion"_s);
-    applyLook();
+    prepareBenchmark();
     const int most = argc > 1 ? QByteArray(argv[1]).toInt() : 1000000;
     std::printf("%-44s %9s %10s %10s\n", "job", "items", "seconds", "us/item");
     for (int count = std::min(1000, most); count <= most; count *= 10) {

@@ -37,20 +37,22 @@ ListWidgetFiles::ListWidgetFiles(QWidget *parent)
 
     layoutTimer.setSingleShot(true);
     connect(&layoutTimer, &QTimer::timeout, this, &ListWidgetFiles::showAddedRows);
-    // Nothing sorts or moves rows within the model today; a mirror that is out of step would be worse than
-    // slow.
-    connect(model(), &QAbstractItemModel::layoutChanged, this, &ListWidgetFiles::mirrorAllRows);
-    connect(model(), &QAbstractItemModel::rowsMoved, this, &ListWidgetFiles::mirrorAllRows);
 }
 
 bool ListWidgetFiles::containsPath(const QString &path) const
 {
-    return pathCounts.contains(path);
+    if (!knownPaths) {
+        knownPaths.emplace();
+        knownPaths->reserve(count());
+        for (int row = 0; row < count(); ++row)
+            knownPaths->insert(this->path(row));
+    }
+    return knownPaths->contains(path);
 }
 
 QString ListWidgetFiles::path(int row) const
 {
-    return paths.at(row);
+    return item(row)->data(Qt::UserRole).toString();
 }
 
 void ListWidgetFiles::removeSelected()
@@ -64,7 +66,7 @@ void ListWidgetFiles::removeSelected()
     QList<std::pair<QString, QString>> kept;
     for (int row = 0; row < count(); ++row) {
         if (!doomed.at(row))
-            kept.append({paths.at(row), item(row)->text()});
+            kept.append({path(row), item(row)->text()});
     }
     // Each row taken out of the middle would move all rows behind it, and the base class would search for
     // each of those again when it is changed next.
@@ -116,9 +118,7 @@ void ListWidgetFiles::setPath(int row, const QString &path)
 {
     const QSignalBlocker quiet(model());
     item(row)->setData(Qt::UserRole, path);
-    discountPath(paths.at(row));
-    paths[row] = path;
-    countPath(path);
+    knownPaths.reset();
 }
 
 void ListWidgetFiles::doItemsLayout()
@@ -136,7 +136,7 @@ void ListWidgetFiles::reset()
     layoutTimer.stop();
     delegate->forgetWidths();
     QListWidget::reset();
-    mirrorAllRows();
+    knownPaths.reset();
 }
 
 void ListWidgetFiles::onClear()
@@ -169,13 +169,8 @@ void ListWidgetFiles::dropEvent(QDropEvent *event)
 void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QList<int> &roles)
 {
-    if (roles.isEmpty() || roles.contains(Qt::UserRole)) {
-        for (int row = topLeft.row(); row <= bottomRight.row(); ++row) {
-            discountPath(paths.at(row));
-            paths[row] = item(row)->data(Qt::UserRole).toString();
-            countPath(paths.at(row));
-        }
-    }
+    if (roles.isEmpty() || roles.contains(Qt::UserRole))
+        knownPaths.reset();
     // The base class asks for a layout and paints the row. A path alone changes nothing that is shown, and
     // rows that wait for a layout get one anyway.
     const bool waiting = layoutRequested || (firstAddedRow >= 0 && topLeft.row() >= firstAddedRow);
@@ -185,10 +180,8 @@ void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex 
 
 void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int last)
 {
-    for (int row = first; row <= last; ++row) {
-        paths.insert(row, item(row)->data(Qt::UserRole).toString());
-        countPath(paths.at(row));
-    }
+    for (int row = first; knownPaths && row <= last; ++row)
+        knownPaths->insert(path(row));
     // The base class throws its layout away for every new row. Rows at the end wait until a layout is due;
     // what is shown meanwhile is the last layout.
     const bool follows = firstAddedRow < 0 ? last == count() - 1 : first == lastAddedRow + 1;
@@ -210,30 +203,6 @@ void ListWidgetFiles::rowsInserted(const QModelIndex &parent, int first, int las
 void ListWidgetFiles::rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
 {
     showAddedRows();
-    for (int row = first; row <= last; ++row)
-        discountPath(paths.at(row));
-    paths.remove(first, last - first + 1);
+    knownPaths.reset();
     QListWidget::rowsAboutToBeRemoved(parent, first, last);
-}
-
-void ListWidgetFiles::mirrorAllRows()
-{
-    paths.clear();
-    pathCounts.clear();
-    for (int row = 0; row < count(); ++row) {
-        paths.append(item(row)->data(Qt::UserRole).toString());
-        countPath(paths.constLast());
-    }
-}
-
-void ListWidgetFiles::countPath(const QString &path)
-{
-    ++pathCounts[path];
-}
-
-void ListWidgetFiles::discountPath(const QString &path)
-{
-    const auto counted = pathCounts.find(path);
-    if (counted != pathCounts.end() && --*counted == 0)
-        pathCounts.erase(counted);
 }

@@ -4,15 +4,17 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QHash>
 #include <QListWidget>
 #include <QMimeData>
+#include <QSet>
 #include <QTimer>
+
+#include <optional>
 
 class FileItemDelegate;
 
 /// The list of files. A row's Qt::UserRole data is the file's full path.
-/// Made for a hundred thousand rows that come one at a time: a mirror of the paths answers containsPath() at
+/// Made for a hundred thousand rows that come one at a time: a set of the paths answers containsPath() at
 /// once, and the layout, which walks all rows, is held back so that it takes a twentieth of the time at most.
 class ListWidgetFiles final : public QListWidget
 {
@@ -64,12 +66,8 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last) override;
 
 private:
-    void mirrorAllRows();
-    void countPath(const QString &path);
-    void discountPath(const QString &path);
-
-    QList<QString> paths; ///< by row
-    QHash<QString, int> pathCounts;
+    mutable std::optional<QSet<QString>>
+        knownPaths; ///< empty while nobody has asked since a path changed or went
 
     FileItemDelegate *delegate;
     QTimer layoutTimer;

@@ -18,17 +18,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct SplitPath
+struct FilePath
 {
-    QString folder; ///< absolute, without a trailing separator but for the root
-    QString name;
+    QString path;         ///< absolute
+    qsizetype nameAt = 0; ///< where the name begins, behind a separator
+    [[nodiscard]] QStringView folder() const { return QStringView(path).first(nameAt - 1); }
+    [[nodiscard]] QString name() const { return path.sliced(nameAt); }
+    [[nodiscard]] QString sibling(const QString &name) const
+    {
+        return QStringView(path).first(nameAt) % name;
+    }
 };
 
-/// Whether an absolute path has no part that QFileInfo would fold away.
-bool isPlain(const QString &path)
+/// Whether a path is absolute and has no part that QFileInfo would fold away.
+bool isPlain(QStringView path)
 {
     for (qsizetype i = 1; i < path.size(); ++i) {
-        if (path.at(i - 1) == u'/' && (path.at(i) == u'/' || path.at(i) == u'.'))
+        if (path[i - 1] == u'/' && (path[i] == u'/' || path[i] == u'.'))
             return false;
     }
     return path.startsWith(u'/');
@@ -36,13 +42,14 @@ bool isPlain(const QString &path)
 
 /// What QFileInfo makes of a path, at a tenth of the cost for the paths that a drop or a scan delivers:
 /// absolute ones without "//", "." or "..".
-SplitPath splitPath(const QString &path)
+FilePath splitPath(const QString &path)
 {
     const qsizetype slash = path.lastIndexOf(u'/');
     if (slash > 0 && isPlain(path))
-        return {path.left(slash), path.sliced(slash + 1)};
+        return {path, slash + 1};
     const QFileInfo file(path);
-    return {file.absolutePath(), file.fileName()};
+    const QString folder = file.absolutePath() + u'/';
+    return {folder + file.fileName(), folder.size()};
 }
 
 } // namespace
@@ -57,11 +64,11 @@ QString MainWindow::newName(const QString &name, int row) const
 
 void MainWindow::updateFileItem(int row)
 {
-    const SplitPath path = splitPath(ui->listWidgetFiles->path(row));
-    QString text = ui->buttonPreview->isChecked() ? newName(path.name, row) : path.name;
+    const FilePath file = splitPath(ui->listWidgetFiles->path(row));
+    QString text = ui->buttonPreview->isChecked() ? newName(file.name(), row) : file.name();
     if (ui->checkBoxShowFullPath->isChecked()) {
         // Deliberate: a folder on a network share is shown with one leading separator.
-        const QString folder = QString(path.folder).replace("//"_L1, "/"_L1);
+        const QString folder = file.folder().toString().replace("//"_L1, "/"_L1);
         text = QDir::toNativeSeparators(folder + QDir::separator() + text);
     }
     ui->listWidgetFiles->setRowText(row, text);
@@ -111,16 +118,16 @@ MainWindow::RunResult MainWindow::renameAll(ProgressDialog &dialog)
 
 bool MainWindow::renameRow(int row)
 {
-    const SplitPath path = splitPath(ui->listWidgetFiles->path(row));
-    const QString folder = path.folder + u'/';
-    const QString newPath = folder + newName(path.name, row);
+    const FilePath file = splitPath(ui->listWidgetFiles->path(row));
+    const QString name = file.name();
+    const QString newPath = file.sibling(newName(name, row));
     // No check of our own: whatever the rules made of the name, the file system's answer alone counts. A name
     // left unchanged is therefore a failure, deliberately.
-    if (renameFile(folder + path.name, newPath)) {
+    if (renameFile(file.path, newPath)) {
         ui->listWidgetFiles->setPath(row, newPath);
         return true;
     }
-    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(path.name));
+    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
     return false;
 }
 

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "bench.h"
+
+#include "app/look.h"
+#include "rules/ruleinserttext.h"
+#include "rules/rulereplace.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int filesPerFolder = 1000;
+
+} // namespace
+
+void prepareBenchmark()
+{
+    QApplication::setStyle(u"Fusion"_s);
+    applyLook();
+}
+
+FileTree::FileTree(int fileCount)
+    : count(fileCount)
+{
+    QTemporaryDir directory(u"/dev/shm/orvanto-benchmark-XXXXXX"_s);
+    directory.setAutoRemove(false);
+    folder = directory.path();
+    for (int i = 0; i < count; ++i) {
+        if (i % filesPerFolder == 0)
+            QDir().mkdir(folder + u"/folder%1"_s.arg(i / filesPerFolder, 4, 10, QChar(u'0')));
+        close(open(QFile::encodeName(path(i)).constData(), O_CREAT | O_WRONLY, 0600));
+    }
+}
+
+FileTree::~FileTree()
+{
+    QDir(folder).removeRecursively();
+}
+
+QString FileTree::path(int file) const
+{
+    return folder + u"/folder%1/IMG_%2.JPG"_s.arg(file / filesPerFolder, 4, 10, QChar(u'0'))
+                        .arg(file, 7, 10, QChar(u'0'));
+}
+
+Bench::Bench()
+    : window({})
+    , list(nullptr)
+{
+    window.initialize();
+    window.show();
+    list = window.findChild<ListWidgetFiles *>(u"listWidgetFiles"_s);
+    auto *pages = window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s);
+    auto *replace = qobject_cast<RuleWidgetReplace *>(pages->widget(ReplacePage));
+    replace->lineEditReplaceWhat->setText(u"IMG_(\\d+)"_s);
+    replace->lineEditReplaceWith->setText(u"Holiday \\1"_s);
+    replace->toolButtonRegExp->setChecked(true);
+    auto *insert = qobject_cast<RuleWidgetInsertText *>(pages->widget(InsertTextPage));
+    insert->lineEditText->setText(u"new_"_s);
+}
+
+void Bench::addRule(int page)
+{
+    window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s)->setCurrentIndex(page);
+    window.on_buttonAddRule_clicked();
+}
+
+void Bench::clearRules()
+{
+    window.onClickedRuleList(8);
+}
+
+double Bench::rename()
+{
+    QElapsedTimer timer;
+    double seconds = 0;
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, &window, [&] {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+        box->accept();
+    });
+    closer.start(1);
+    timer.start();
+    window.on_buttonRename_clicked();
+    return seconds;
+}
