@@ -8,6 +8,7 @@ build_packages=(
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libgl-dev
 )
 run_packages=(fonts-dejavu-core xdg-utils)
+benchmark_packages=(gnuplot-nox mmv moreutils python3 rename util-linux)
 virtual_display_packages=(openbox xvfb)
 test_packages=(
     at-spi2-core clang-format-14 dbus dbus-bin dbus-daemon fonts-dejavu-core g++-mingw-w64-x86-64-posix
