@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Beim Systemstart laden</translation>
+        <translation>Beim Systemstart ausführen</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation>Bitte unterstützen Sie uns, wenn Ihnen dieses Programm gefällt und es unser Angebot weiterhin geben soll.</translation>
+        <translation>Bitte unterstützen Sie uns, wenn Ihnen dieses Programm gefällt und unser Angebot bestehen bleiben soll.</translation>
     </message>
     <message>
         <source>Thank you!</source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>Undocks and re-attaches the dock widget</source>
-        <translation>Löst das Andockfenster oder dockt es wieder an</translation>
+        <translation>Dockt das Andockfenster ab oder wieder an</translation>
     </message>
     <message>
         <source>Close</source>
@@ -613,7 +613,7 @@
     </message>
     <message>
         <source>Start Number</source>
-        <translation>Startnummer</translation>
+        <translation>Startwert</translation>
     </message>
     <message>
         <source>Position</source>

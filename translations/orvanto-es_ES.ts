@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Cargar al iniciar el sistema</translation>
+        <translation>Iniciar con el sistema</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -68,7 +68,7 @@
     </message>
     <message>
         <source>Minimize to tray icon</source>
-        <translation>Minimizar en el área de notificación</translation>
+        <translation>Minimizar al área de notificación</translation>
     </message>
     <message>
         <source>Automatically check for new version</source>
@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>File renaming started</source>
-        <translation>Se ha empezado a renombrar los archivos</translation>
+        <translation>Se han empezado a renombrar los archivos</translation>
     </message>
     <message>
         <source>Could not rename file</source>

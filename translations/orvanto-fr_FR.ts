@@ -361,7 +361,7 @@
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
-        <translation>Délai d’une opération de socket dépassé</translation>
+        <translation>Délai d’attente du socket dépassé</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Carica all’avvio del sistema</translation>
+        <translation>Esegui all’avvio del sistema</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Please support us if you like this software and want to keep our service alive.</source>
-        <translation>Se il programma è gradito e si desidera che il nostro servizio continui, un piccolo sostegno è benvenuto.</translation>
+        <translation>Chi apprezza questo programma e desidera che il nostro servizio continui può sostenerci.</translation>
     </message>
     <message>
         <source>Thank you!</source>
@@ -675,7 +675,7 @@
     </message>
     <message>
         <source>Version check failed</source>
-        <translation>Controllo della versione non riuscito</translation>
+        <translation>Verifica della versione non riuscita</translation>
     </message>
     <message>
         <source>Error connecting to server.</source>
@@ -703,7 +703,7 @@
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation>Novità?</translation>
+        <translation>Cosa c’è di nuovo?</translation>
     </message>
     <message>
         <source>Skip Version</source>

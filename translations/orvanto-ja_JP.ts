@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>This application is freeware and will always remain free. </source>
-        <translation>このアプリケーションはフリーウェアであり、今後も常に無料です。 </translation>
+        <translation>このアプリケーションはフリーウェアであり、今後もずっと無料です。 </translation>
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>We would like to thank you for your confidence and hope you&apos;ll enjoy this software.</source>
-        <translation>このソフトウェアをお選びいただきありがとうございます。お楽しみいただければ幸いです。</translation>
+        <translation>このソフトウェアをお選びいただきありがとうございます。お気に召していただければ幸いです。</translation>
     </message>
     <message>
         <source>Discover more products from us:</source>
@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation>次のアドレスで手動で確認してください:</translation>
+        <translation>次のアドレスから手動で確認してください:</translation>
     </message>
     <message>
         <source>There is a new version available!</source>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Laden bij het opstarten van het systeem</translation>
+        <translation>Starten bij opstarten van het systeem</translation>
     </message>
     <message>
         <source>Minimize on start</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Wij zoeken vertalers die naar hun moedertaal vertalen.</translation>
+        <translation>Wij zoeken moedertaalsprekers als vertalers.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>

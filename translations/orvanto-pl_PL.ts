@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation>Przekazując niewielki datek, możesz pomóc nam w tworzeniu, ulepszaniu i utrzymywaniu naszych produktów.</translation>
+        <translation>Przekazując niewielką darowiznę, możesz pomóc nam w tworzeniu, ulepszaniu i utrzymywaniu naszych produktów.</translation>
     </message>
     <message>
         <source>Application Directory</source>
@@ -372,11 +372,11 @@
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation>Krok w &amp;górę</translation>
+        <translation>Zw&amp;iększ</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
-        <translation>Krok w &amp;dół</translation>
+        <translation>Z&amp;mniejsz</translation>
     </message>
 </context>
 <context>

@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Load on system start-up</source>
-        <translation>Carregar ao iniciar o sistema</translation>
+        <translation>Iniciar com o sistema</translation>
     </message>
     <message>
         <source>Minimize on start</source>

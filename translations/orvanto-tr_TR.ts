@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Add-ons</source>
-        <translation>Eklentiler</translation>
+        <translation>Ek Bileşenler</translation>
     </message>
     <message>
         <source>Localisation</source>
@@ -72,7 +72,7 @@
     </message>
     <message>
         <source>Automatically check for new version</source>
-        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
+        <translation>Yeni sürümleri otomatik olarak denetle</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>By making a small contribution you can help us in developing, upgrading and maintaining our products.</source>
-        <translation>Küçük bir katkıda bulunarak ürünlerimizi geliştirmemize, yenilememize ve sürdürmemize yardımcı olabilirsiniz.</translation>
+        <translation>Küçük bir katkıda bulunarak ürünlerimizi geliştirmemize, güncellememize ve sürdürmemize yardımcı olabilirsiniz.</translation>
     </message>
     <message>
         <source>Application Directory</source>
@@ -128,7 +128,7 @@
     </message>
     <message>
         <source>&lt;b style=&apos;color:#888&apos;&gt;Made by Kavrondel&lt;/b&gt;</source>
-        <translation>&lt;b style=&apos;color:#888&apos;&gt;Kavrondel tarafından geliştirilmiştir&lt;/b&gt;</translation>
+        <translation>&lt;b style=&apos;color:#888&apos;&gt;Geliştiren: Kavrondel&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Save</source>
@@ -171,7 +171,7 @@
     </message>
     <message>
         <source>Automatically check for new versions</source>
-        <translation>Yeni sürüm olup olmadığını otomatik denetle</translation>
+        <translation>Yeni sürümleri otomatik olarak denetle</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>We are looking for native speaking translators.</source>
-        <translation>Ana dilinde çeviri yapacak çevirmenler arıyoruz.</translation>
+        <translation>Ana diline çeviri yapacak çevirmenler arıyoruz.</translation>
     </message>
     <message>
         <source>Please contact us at: </source>
@@ -270,7 +270,7 @@
     </message>
     <message>
         <source>Debug</source>
-        <translation>Hata ayıklama</translation>
+        <translation>Hata Ayıklama</translation>
     </message>
     <message>
         <source>Open log directory</source>

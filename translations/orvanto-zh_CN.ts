@@ -683,7 +683,7 @@
     </message>
     <message>
         <source>Please check manually at:</source>
-        <translation>请手动检查：</translation>
+        <translation>请在此处手动检查：</translation>
     </message>
     <message>
         <source>There is a new version available!</source>
