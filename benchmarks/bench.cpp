@@ -7,6 +7,7 @@
 #include "rules/ruleinserttext.h"
 #include "rules/rulereplace.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -16,6 +17,8 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -32,6 +35,25 @@ void prepareBenchmark()
 {
     QApplication::setStyle(u"Fusion"_s);
     applyLook();
+}
+
+PauseMeter::PauseMeter()
+{
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &context,
+                     [this] { pass(); });
+    sincePass.start();
+}
+
+double PauseMeter::longest()
+{
+    pass();
+    return static_cast<double>(longestPause) * 1e-6;
+}
+
+void PauseMeter::pass()
+{
+    longestPause = std::max(longestPause, sincePass.nsecsElapsed());
+    sincePass.start();
 }
 
 FileTree::FileTree(int fileCount)

@@ -7,6 +7,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QElapsedTimer>
+#include <QObject>
 #include <QString>
 
 #include <functional>
@@ -24,6 +25,24 @@ inline double secondsOf(const std::function<void()> &action)
     action();
     return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
 }
+
+/// The longest time between two passes of the event loop: what a click has to wait at most.
+class PauseMeter final
+{
+public:
+    PauseMeter();
+    Q_DISABLE_COPY_MOVE(PauseMeter)
+
+    /// Milliseconds, since the object was made.
+    [[nodiscard]] double longest();
+
+private:
+    void pass();
+
+    QElapsedTimer sincePass;
+    qint64 longestPause = 0; ///< nanoseconds
+    QObject context;
+};
 
 /// A folder with many small-named empty files on the RAM disk, gone with the object.
 class FileTree final

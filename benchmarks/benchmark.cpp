@@ -6,6 +6,7 @@
 #include "bench.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QMimeData>
@@ -70,13 +71,20 @@ void printRow(const char *job, int count, double seconds)
     std::fflush(stdout);
 }
 
+void printPause(int count, PauseMeter &pauses)
+{
+    std::printf("%-44s %9d %21.1f ms\n", "  the longest wait of a click", count, pauses.longest());
+}
+
 void measureAdding(Bench &bench, const FileTree &tree)
 {
     const qint64 before = residentBytes();
     const double bare = bareScan(tree);
+    PauseMeter scanPauses;
     const double scanned = secondsOf([&] { bench.window.addPath(tree.folder); });
     printRow("read the folders, nothing else", tree.count, bare);
     printRow("drop a folder: scan and add", tree.count, scanned);
+    printPause(tree.count, scanPauses);
     const double settled = secondsOf([] { QCoreApplication::processEvents(); });
     printRow("  the layout after it", tree.count, settled);
     std::printf("%-44s %9d %21.0f bytes a row\n", "  memory", tree.count,
@@ -88,7 +96,9 @@ void measureAdding(Bench &bench, const FileTree &tree)
     for (int i = 0; i < tree.count; ++i)
         urls.append(QUrl::fromLocalFile(tree.path(i)));
     mimeData.setUrls(urls);
+    PauseMeter dropPauses;
     printRow("drop single files", tree.count, secondsOf([&] { bench.window.onFileListAdded(&mimeData); }));
+    printPause(tree.count, dropPauses);
     QCoreApplication::processEvents();
 }
 
@@ -107,6 +117,18 @@ void measureEditing(Bench &bench, const FileTree &tree)
     QCoreApplication::processEvents();
     bench.clearRules();
 
+    printRow("show full paths, lay them out", tree.count, secondsOf([&] {
+                 bench.window.findChild<QCheckBox *>(u"checkBoxShowFullPath"_s)->click();
+                 QCoreApplication::processEvents();
+             }));
+    bench.window.findChild<QCheckBox *>(u"checkBoxShowFullPath"_s)->click();
+    QCoreApplication::processEvents();
+    QEvent languageChange(QEvent::LanguageChange);
+    printRow("switch the language", 1, secondsOf([&] {
+                 QCoreApplication::sendEvent(&bench.window, &languageChange);
+                 QCoreApplication::processEvents();
+             }));
+
     constexpr int moves = 20;
     bench.list->setCurrentRow(tree.count / 2);
     printRow("move a row up, the layout after it, 20 times", moves, secondsOf([&] {
@@ -122,10 +144,14 @@ void measureRun(Bench &bench, const FileTree &tree)
     const double bare = bareRename(tree);
     printRow("renameat2 alone", tree.count, bare);
     bench.addRule(InsertTextPage);
+    PauseMeter pauses;
     const double run = bench.rename();
     printRow("the run", tree.count, run);
     std::printf("%-44s %9d %21.2f times\n", "  beside renameat2 alone", tree.count, run / bare);
+    printPause(tree.count, pauses);
     bench.clearRules();
+    printRow("a run in which every file fails", tree.count, bench.rename());
+    printRow("  its lines into the log table", tree.count, secondsOf([&] { bench.window.onTimeout(); }));
 }
 
 void measureRemoving(Bench &bench, const FileTree &tree)
@@ -139,6 +165,8 @@ void measureRemoving(Bench &bench, const FileTree &tree)
         bench.list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     }
     printRow("remove every other row", tree.count, secondsOf([&] { bench.window.onClickedFileList(4); }));
+    bench.list->selectAll();
+    printRow("remove all rows", tree.count / 2, secondsOf([&] { bench.window.onClickedFileList(4); }));
     QCoreApplication::processEvents();
     bench.list->onClear();
 }

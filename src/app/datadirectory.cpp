@@ -31,8 +31,8 @@ bool isWritable(const QString &directory)
 
 QString installedDataDirectory()
 {
-    const QString directory = userDataFolder() + u"/%1/%2"_s.arg(QCoreApplication::organizationName(),
-                                                                 QCoreApplication::applicationName());
+    QString directory = userDataFolder() + u"/%1/%2"_s.arg(QCoreApplication::organizationName(),
+                                                           QCoreApplication::applicationName());
     if (!QDir(directory).exists())
         QDir().mkpath(directory);
     return directory;

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 maxFileSize = 16 * 1024 * 1024;
+constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 // The document is walked recursively; a file nested without bound would exhaust the stack.
 constexpr int maxDepth = 100;
 constexpr int indent = 2;

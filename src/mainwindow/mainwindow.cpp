@@ -240,10 +240,11 @@ void MainWindow::moveLogLinesToTable()
         if (parts.size() >= 2)
             rows.append(parts);
     }
-    for (auto parts = rows.crbegin(); parts != rows.crend(); ++parts) {
+    std::reverse(rows.begin(), rows.end());
+    for (const QStringList &parts : std::as_const(rows)) {
         table->insertRow(0);
-        table->setItem(0, 0, new QTableWidgetItem(parts->at(0)));
-        table->setItem(0, 1, new QTableWidgetItem(parts->at(1)));
+        table->setItem(0, 0, new QTableWidgetItem(parts.at(0)));
+        table->setItem(0, 1, new QTableWidgetItem(parts.at(1)));
         if (table->rowCount() >= logRowLimit)
             table->removeRow(table->rowCount() - 1);
     }

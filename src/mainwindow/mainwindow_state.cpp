@@ -20,6 +20,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -35,13 +36,13 @@ constexpr int screenEdge = 64;     // pixels of the window that must stay on the
 
 double roundedToTwoDecimals(double value)
 {
-    return static_cast<int>(value * 100 + 0.5) / 100.0;
+    return std::floor(value * 100 + 0.5) / 100.0;
 }
 
 /// The entry of the menu, 0 to 3, that an opacity checks: values in between fall to the one below.
 int opacityEntry(double opacity)
 {
-    const int percent = static_cast<int>(opacity * 100 + 0.5);
+    const int percent = static_cast<int>(std::floor(opacity * 100 + 0.5));
     // Deliberate: an opacity of 0 gives -1, which as an unsigned number is beyond the last entry.
     const auto entry = static_cast<unsigned>(static_cast<int>(percent * opacitySteps / 100.0 - 1));
     return static_cast<int>(std::min(entry, opacitySteps - 1U));

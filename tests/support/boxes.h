@@ -33,7 +33,7 @@ public:
     BoxAnswerer()
     {
         timer.setInterval(0);
-        QObject::connect(&timer, &QTimer::timeout, [this] { answer(); });
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { answer(); });
         timer.start();
     }
 

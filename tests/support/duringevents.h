@@ -16,11 +16,10 @@ class DuringEvents
 public:
     explicit DuringEvents(std::function<void(int)> stepToRun)
         : step(std::move(stepToRun))
-        , connection(QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
-                                      [this] { run(); }))
     {
+        QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, &context,
+                         [this] { run(); });
     }
-    ~DuringEvents() { QObject::disconnect(connection); }
     Q_DISABLE_COPY_MOVE(DuringEvents)
 
 private:
@@ -33,7 +32,7 @@ private:
     }
 
     std::function<void(int)> step;
-    QMetaObject::Connection connection;
     int pass = 0;
     bool running = false;
+    QObject context; ///< the last member: nothing runs once it is gone
 };

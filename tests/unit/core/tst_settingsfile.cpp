@@ -17,7 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype largestFile = 16 * 1024 * 1024;
+constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype largestFile = 16 * mebibyte;
 
 /// "<Settings>" and elements in it down to this depth, with a language beside them.
 QByteArray nested(int depth)
@@ -240,8 +241,8 @@ void TestSettingsFile::damagedFileGivesDefaultsAndIsReplaced_data()
     QTest::newRow("not closed") << QByteArray(good).replace("</Misc>", "");
     QTest::newRow("nested without end") << nested(100000);
     QTest::newRow("opened without end") << "<Settings>" + QByteArray("<a>").repeated(100000);
-    QTest::newRow("20 MiB") << sized(20 * 1024 * 1024);
-    QTest::newRow("20 MiB of nothing") << QByteArray(20 * 1024 * 1024, '\0');
+    QTest::newRow("20 MiB") << sized(20 * mebibyte);
+    QTest::newRow("20 MiB of nothing") << QByteArray(20 * mebibyte, '\0');
     QTest::newRow("invalid UTF-8") << QByteArray(good).replace("de_DE", "\xff\xfe\xc0\x80");
     QTest::newRow("null character") << QByteArray(good).replace("de_DE", QByteArray("d\0e", 3));
     QTest::newRow("control character") << QByteArray(good).replace("de_DE", "d\x01"

@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString localeFolder = QStringLiteral(LOCALE_FOLDER);
+constexpr auto localeFolder = QLatin1String(LOCALE_FOLDER);
 
 /// A translator that remembers which texts it was asked for and did not have.
 class StrictTranslator final : public QTranslator

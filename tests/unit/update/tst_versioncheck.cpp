@@ -11,8 +11,8 @@ namespace {
 
 const auto failed = u"version check failed"_s;
 const auto successful = u"version check successful"_s;
-const QByteArray newVersion = "outdated=1\nlatest=1.3.0.0\ndownload=http://files.example/get?a=b\n"
-                              "changes=https://files.example/changes\n";
+constexpr auto newVersion = "outdated=1\nlatest=1.3.0.0\ndownload=http://files.example/get?a=b\n"
+                            "changes=https://files.example/changes\n";
 
 } // namespace
 

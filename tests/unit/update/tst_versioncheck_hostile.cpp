@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QByteArray endlessHead = "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\n";
+constexpr auto endlessHead = "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n\r\n";
 constexpr qint64 mebibyte = 1048576;
 
 /// The most memory that this process has held, in bytes.
@@ -67,7 +67,7 @@ void TestVersionCheckHostile::endlessReply_data()
         << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 9223372036854775807\r\n\r\n");
     QTest::newRow("one huge chunk") << QByteArray(
         "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n40000000\r\n");
-    QTest::newRow("after a good beginning") << endlessHead + "outdated=1\nlatest=2\n";
+    QTest::newRow("after a good beginning") << QByteArray(endlessHead) + "outdated=1\nlatest=2\n";
 }
 
 void TestVersionCheckHostile::endlessReply()
@@ -115,7 +115,7 @@ void TestVersionCheckHostile::replyThatDrips()
 {
     VersionCheck::service().replyTime = std::chrono::milliseconds(300);
     server->answer = [](QTcpSocket *socket) {
-        socket->write(endlessHead + "outdated=1\n");
+        socket->write(QByteArray(endlessHead) + "outdated=1\n");
         auto *drip = new QTimer(socket);
         QObject::connect(drip, &QTimer::timeout, socket, [socket] { socket->write("x"); });
         drip->start(10);
