@@ -73,11 +73,6 @@ Fault *SystemFaults::next(SystemCall call, const char *path)
     return nullptr;
 }
 
-SystemFaults *currentFaults()
-{
-    return active;
-}
-
 extern "C" {
 
 int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept

@@ -67,6 +67,3 @@ private:
     std::list<Counted> faults;
     int hitCount = 0;
 };
-
-/// The faults that are in force; null when there are none.
-SystemFaults *currentFaults();
