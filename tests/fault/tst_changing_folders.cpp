@@ -6,6 +6,7 @@
 
 #include <QDirIterator>
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -58,6 +59,8 @@ private:
         }
         QVERIFY(run->window.mirrorAgrees());
         QVERIFY(!run->window.waitDialog());
+        // What was found before is listed.
+        QVERIFY(run->window.files()->count() >= std::min(pass, 3 * perFolder));
         renameAndCheck();
     }
     void renameAndCheck() const

@@ -257,6 +257,19 @@ private slots:
         }
     }
 
+    // A link that leads somewhere is no obstacle to itself.
+    void aLinkThatChangesOnlyTheCase()
+    {
+        write(u"target"_s, "content");
+        if (!QFile::link(path(u"target"_s), path(u"link"_s))) {
+            QVERIFY2(is(Exfat | Vfat), "links are known here");
+            return;
+        }
+        QVERIFY(renameFile(path(u"link"_s), path(u"LINK"_s)));
+        QCOMPARE(namesOnDisk(), (QStringList{u"LINK"_s, u"target"_s}));
+        QVERIFY(QFileInfo(path(u"LINK"_s)).isSymLink());
+    }
+
     // Such a change goes by a third name here. When the second step fails, the first is undone.
     void changeOfCaseThatFailsHalfWay()
     {

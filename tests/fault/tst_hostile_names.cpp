@@ -4,6 +4,8 @@
 #include "fault/faultrun.h"
 #include "support/duringevents.h"
 
+#include <QDockWidget>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
@@ -343,14 +345,20 @@ private slots:
 
     void explorerShowsMarkupAsText()
     {
-        run->tree.addFile(QString(markup).remove(u'/'));
-        auto *explorer = run->window->findChild<QTreeView *>({}, Qt::FindChildrenRecursively);
-        for (auto *tree : run->window->findChildren<QTreeView *>()) {
-            if (tree->dragDropMode() == QAbstractItemView::DragOnly)
-                explorer = tree;
-        }
-        QCOMPARE(explorer->model()->index(0, 0).data(Qt::ToolTipRole), QVariant());
-        QCOMPARE(toolTipOf(explorer, explorer->model()->index(0, 0)), QString());
+        const QString name = QString(markup).remove(u'/');
+        run->tree.addFile(name);
+        auto *explorer = run->window.child<QDockWidget>("dockWidgetExplorer")->findChild<QTreeView *>();
+        explorer->window()->resize(1900, 800);
+        auto *model = qobject_cast<QFileSystemModel *>(explorer->model());
+        const QModelIndex folder = model->setRootPath(run->tree.path());
+        explorer->setRootIndex(folder);
+        QTRY_COMPARE(model->rowCount(folder), 1);
+        const QModelIndex row = model->index(0, 0, folder);
+        QCOMPARE(row.data().toString(), name);
+        explorer->setColumnWidth(0, 2 * explorer->fontMetrics().horizontalAdvance(name));
+        explorer->setMinimumWidth(explorer->columnWidth(0));
+        verifyDrawnAsText(explorer, row, name);
+        QCOMPARE(toolTipOf(explorer, row), QString());
     }
 
     // Much of it at once, so that a wrong row would show.
