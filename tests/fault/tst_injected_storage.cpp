@@ -5,6 +5,7 @@
 #include "fault/inject/systemfaults.h"
 #include "platform/autostart.h"
 
+#include <QScopeGuard>
 #include <QTableWidget>
 
 #include <cerrno>
@@ -152,6 +153,7 @@ private slots:
     void autoStartEntryOnAFullDisk()
     {
         qputenv("XDG_CONFIG_HOME", QFile::encodeName(run->tree.path()));
+        const auto restore = qScopeGuard([] { qunsetenv("XDG_CONFIG_HOME"); });
         QVERIFY(setAutoStart(true));
         QVERIFY(isAutoStartEnabled());
         const QString name = "autostart/"_L1 + run->tree.names(u"autostart"_s).constFirst();
@@ -161,7 +163,6 @@ private slots:
         QVERIFY(faults->hits() > 0);
         QCOMPARE(run->tree.content(name), before);
         QCOMPARE(run->tree.names(u"autostart"_s).size(), 1);
-        qunsetenv("XDG_CONFIG_HOME");
     }
 
     void closingTheWindowOnAFullDisk()
