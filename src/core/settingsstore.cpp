@@ -141,7 +141,9 @@ void SettingsStore::save()
         return;
     }
     const QByteArray xml = document.toByteArray(indent);
-    if (file.write(xml) < xml.size() || !file.commit())
+    // Committing does not notice when the disk is full for what is still buffered, and an empty file would
+    // take the old one's place.
+    if (file.write(xml) < xml.size() || !file.flush() || !file.commit())
         qDebug().nospace() << "could not save all data in: " << filePath;
 }
 

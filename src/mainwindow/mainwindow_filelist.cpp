@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QStringDecoder>
 #include <QUrl>
 
 #include <algorithm>
@@ -32,6 +33,22 @@ std::unique_ptr<ProgressDialog> createWaitDialog(QWidget *parent, ProgressDialog
     return dialog;
 }
 
+/// The path of a dropped file. Qt puts U+FFFD for bytes that are no text, and another file may have that
+/// name: half a character in its place keeps the path from leading to any file. Such a row is shown, and
+/// fails.
+QString localPath(const QUrl &url)
+{
+    QString path = url.toLocalFile();
+    if (!path.contains(QChar::ReplacementCharacter))
+        return path;
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    [[maybe_unused]] const QString text =
+        decoder(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+    if (decoder.hasError())
+        path.replace(QChar::ReplacementCharacter, QChar(0xD800));
+    return path;
+}
+
 } // namespace
 
 void MainWindow::onFileListAdded(const QMimeData *mimeData)
@@ -41,7 +58,7 @@ void MainWindow::onFileListAdded(const QMimeData *mimeData)
     for (const QUrl &url : urls) {
         if (closesAfterDrop)
             break;
-        addPath(url.toLocalFile());
+        addPath(localPath(url));
     }
     ui->listWidgetFiles->showAddedRows();
     if (closesAfterDrop)
@@ -52,7 +69,9 @@ void MainWindow::addPath(const QString &path)
 {
     // Built when it is first shown: dropping a thousand single files shows none.
     std::unique_ptr<ProgressDialog> dialog;
-    const QStringList paths = QFileInfo(path).isDir() ? collectFiles(path, dialog) : QStringList(path);
+    // The system would be asked for U+FFFD instead of half a character.
+    const bool isFolder = path.isValidUtf16() && QFileInfo(path).isDir();
+    const QStringList paths = isFolder ? collectFiles(path, dialog) : QStringList(path);
     const qsizetype total = paths.size();
     if (total > 1) {
         dialog->stackedWidget->setCurrentIndex(ProgressDialog::ProgressPage);

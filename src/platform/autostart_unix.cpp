@@ -91,5 +91,6 @@ bool setAutoStart(bool enabled)
                          escapedValue(QCoreApplication::applicationName()) + "\nExec="_L1 +
                          autoStartCommand(QCoreApplication::applicationFilePath()) + u'\n';
     file.write(text.toUtf8());
-    return file.commit();
+    // Committing alone does not notice when the disk is full.
+    return file.flush() && file.commit();
 }

@@ -8,20 +8,40 @@
 #include <cstdio>
 
 #include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+/// Whether a link is in the way, of which QFile::rename knows only where it leads: one that leads nowhere is
+/// free for it, and lost where the file system knows neither hard links nor how to refuse.
+bool isLinkInTheWay(const QByteArray &from, const QByteArray &to)
+{
+    struct stat source = {};
+    struct stat target = {};
+    if (lstat(to.constData(), &target) != 0 || !S_ISLNK(target.st_mode))
+        return false;
+    // A change of case alone finds the link itself.
+    return lstat(from.constData(), &source) != 0 || source.st_dev != target.st_dev ||
+           source.st_ino != target.st_ino;
+}
+
+} // namespace
 
 std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to)
 {
-#ifdef RENAME_NOREPLACE
     // The system would read a name up to its first null character only, and rename another file.
     if (from.contains(QChar::Null) || to.contains(QChar::Null))
         return std::nullopt;
-    if (renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD, QFile::encodeName(to).constData(),
-                  RENAME_NOREPLACE) == 0)
+    // Half a character would be written as U+FFFD: a name that nobody asked for, or that of another file.
+    if (!from.isValidUtf16() || !to.isValidUtf16())
+        return false;
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+#ifdef RENAME_NOREPLACE
+    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return true;
-    return std::nullopt;
-#else
-    Q_UNUSED(from)
-    Q_UNUSED(to)
-    return std::nullopt;
 #endif
+    if (isLinkInTheWay(source, target))
+        return false;
+    return std::nullopt;
 }

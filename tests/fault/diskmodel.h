@@ -43,7 +43,8 @@ public:
         const QByteArray top = QFile::encodeName(root);
         const QByteArray prefix = top + "/";
         const QByteArray bytes = QFile::encodeName(path);
-        if (!bytes.startsWith(prefix))
+        // Half a character cannot be written.
+        if (!path.isValidUtf16() || !bytes.startsWith(prefix))
             return std::nullopt;
         QByteArrayList parts = bytes.mid(prefix.size()).split('/');
         const QByteArray last = parts.takeLast();
