@@ -64,8 +64,8 @@ public:
             return QStringLiteral("report: ") + boxes.seen.constFirst().text;
         if (DrivenWindow::logLines() != log)
             return QStringLiteral("log: ") + DrivenWindow::logLines().join(u'\n');
-        if (!window.mirrorAgrees())
-            return QStringLiteral("the mirror of the paths is out of step");
+        if (!window.pathsAgree())
+            return QStringLiteral("the set of known paths is out of step");
         if (window.waitDialog())
             return QStringLiteral("the wait dialog is still there");
         const QStringList paths = window.rowPaths();

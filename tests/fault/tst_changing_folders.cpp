@@ -57,7 +57,7 @@ private:
             });
             run->window.drop({run->tree.path(u"all"_s)});
         }
-        QVERIFY(run->window.mirrorAgrees());
+        QVERIFY(run->window.pathsAgree());
         QVERIFY(!run->window.waitDialog());
         // What was found before is listed.
         QVERIFY(run->window.files()->count() >= std::min(pass, 3 * perFolder));

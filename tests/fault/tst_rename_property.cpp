@@ -174,7 +174,7 @@ private:
         QCOMPARE(disk.contents(), contents);
         QVERIFY2(disk == model, disk.differenceTo(model).constData());
         QCOMPARE(window->rowPaths(), expected->paths);
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
         QCOMPARE(DrivenWindow::logLines(), expected->logLines);
         QCOMPARE(boxes->seen.size(), 1);
         QCOMPARE(QString(boxes->seen.constFirst().text).replace(u'\n', u' '), expected->logLines.constLast());

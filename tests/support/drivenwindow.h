@@ -126,7 +126,7 @@ public:
     }
 
     /// Whether the list's answers about paths agree with what its rows hold.
-    [[nodiscard]] bool mirrorAgrees(const QStringList &absent = {}) const
+    [[nodiscard]] bool pathsAgree(const QStringList &absent = {}) const
     {
         const QStringList paths = rowPaths();
         for (int row = 0; row < paths.size(); ++row) {

@@ -82,7 +82,7 @@ private slots:
     }
     void cleanup()
     {
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
         QVERIFY(!window->waitDialog());
         window.reset();
         settings.reset();

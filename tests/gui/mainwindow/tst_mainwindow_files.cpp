@@ -86,7 +86,7 @@ private slots:
     }
     void cleanup()
     {
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
         window.reset();
         settings.reset();
     }

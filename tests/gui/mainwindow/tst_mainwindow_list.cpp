@@ -26,7 +26,7 @@ QListWidgetItem *makeItem(const QString &path)
 
 } // namespace
 
-/// The list widget itself: the mirror of its paths, the removal of many rows, and the layout that is held
+/// The list widget itself: the set of its paths, the removal of many rows, and the layout that is held
 /// back.
 class FileListWidget : public QObject
 {
@@ -47,7 +47,7 @@ private:
             result.append(list->item(row)->data(Qt::UserRole).toString());
         return result;
     }
-    /// Compares the list with the rows that it should have, and its mirror with both.
+    /// Compares the list with the rows that it should have, and its set of paths with both.
     void compare(const QStringList &expected, const QStringList &pool) const
     {
         QCOMPARE(paths(), expected);
@@ -85,7 +85,7 @@ private slots:
         QVERIFY(!list->containsPath({}));
     }
 
-    void mirrorFollowsEveryChange()
+    void knownPathsFollowEveryChange()
     {
         const QStringList pool = {u"/a"_s, u"/b"_s, u"/c"_s, u"/d"_s, u"/A"_s, u"//a"_s, QString()};
         list->addItem(makeItem(u"/a"_s));
@@ -114,7 +114,7 @@ private slots:
         compare({u"/a"_s}, pool);
     }
 
-    void mirrorFollowsRowsThatMoveWithinTheModel()
+    void knownPathsFollowRowsThatMoveWithinTheModel()
     {
         const QStringList pool = {u"/p/0"_s, u"/p/1"_s, u"/p/2"_s};
         add(3);

@@ -203,7 +203,7 @@ private:
     void checkAll(const QByteArrayList &expectedContents)
     {
         QCoreApplication::processEvents();
-        QVERIFY(window->mirrorAgrees({tree->path(u"dir/f000"_s), tree->path(u"dir/xf000"_s),
+        QVERIFY(window->pathsAgree({tree->path(u"dir/f000"_s), tree->path(u"dir/xf000"_s),
                                       tree->path(u"more/m000"_s), tree->path(u"gone"_s)}));
         QCOMPARE(contents(), expectedContents);
         QVERIFY(!window->waitDialog());
@@ -368,7 +368,7 @@ private slots:
         }
         QCOMPARE(boxes->seen.constFirst().text,
                  u"Total 12\nProcessed %1\nFailed %2"_s.arg(fileCount - failed).arg(failed));
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
     }
 
     void leavingTheProgramWhileItWorks_data()
@@ -408,7 +408,7 @@ private slots:
         QApplication::exec();
         QVERIFY(workEnded);
         QVERIFY(window->get()->isHidden());
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
         QCOMPARE(contents(), before);
         QVERIFY(!window->waitDialog());
     }
@@ -434,7 +434,7 @@ private slots:
             });
             window->drop({tree->path(u"dir"_s), tree->path(u"more"_s)});
             window->click("buttonRename");
-            QVERIFY(window->mirrorAgrees());
+            QVERIFY(window->pathsAgree());
             QCOMPARE(contents(), before);
         }
         window->get()->show();

@@ -63,7 +63,7 @@ private slots:
     }
     void cleanup()
     {
-        QVERIFY(window->mirrorAgrees());
+        QVERIFY(window->pathsAgree());
         QVERIFY(!window->waitDialog());
         boxes.reset();
         window.reset();
