@@ -14,7 +14,7 @@ test_packages=(
     gir1.2-atspi-2.0 imagemagick librsvg2-bin openbox procps python3 python3-gi python3-pyatspi qt6-wayland trayer
     util-linux weston wmctrl x11-utils x11-xserver-utils xauth xdotool xkb-data xvfb xdg-utils
 )
-fuzz_packages=(clang-14 fonts-dejavu-core libclang-rt-14-dev)
+fuzz_packages=(clang-14 fonts-dejavu-core libclang-rt-14-dev python3)
 
 # ensure_packages NAME...: installs those that are missing; silent and quick when none is.
 ensure_packages() {
