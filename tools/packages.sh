@@ -17,6 +17,7 @@ test_packages=(
     xauth xdg-utils xdotool xkb-data xvfb
 )
 analysis_packages=(clang-tidy-14 clazy python3)
+fuzz_packages=(clang-14 fonts-dejavu-core libclang-rt-14-dev python3)
 
 # ensure_packages NAME...: installs those that are missing; silent and quick when none is.
 ensure_packages() {

@@ -3,10 +3,22 @@
 
 #include "rules/regexp.h"
 
+#include "rules/patterncost.h"
+
 #include <QRegExp>
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// In place of a pattern that the engine must not see.
+const auto invalidPattern = u"("_s;
+
+} // namespace
+
 RegExp::RegExp(const QString &pattern)
-    : engine(std::make_shared<const QRegExp>(pattern, Qt::CaseSensitive, QRegExp::RegExp))
+    : engine(std::make_shared<const QRegExp>(isAffordablePattern(pattern) ? pattern : invalidPattern,
+                                             Qt::CaseSensitive, QRegExp::RegExp))
 {
 }
 

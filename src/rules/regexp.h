@@ -15,7 +15,8 @@ class QRegExp;
 class RegExp final
 {
 public:
-    /// An invalid pattern is accepted: it matches nothing.
+    /// An invalid pattern is accepted: it matches nothing. So does one that would take the engine too long,
+    /// or too much memory: see patterncost.h.
     explicit RegExp(const QString &pattern = {});
 
     /// text with every match replaced.

@@ -40,6 +40,8 @@ private slots:
     void changesTheCase();
     void usesTheExtensionUnescaped_data();
     void usesTheExtensionUnescaped();
+    void extensionOfTooGreatACostIsLikeAnInvalidOne_data();
+    void extensionOfTooGreatACostIsLikeAnInvalidOne();
     void nameWithoutDotLosesItsLastCharacterAndGetsADot_data();
     void nameWithoutDotLosesItsLastCharacterAndGetsADot();
     void letterOutsideLatin1CountsAsNoLetter_data();
@@ -138,6 +140,25 @@ void TestChangeCase::usesTheExtensionUnescaped()
 {
     QFETCH(QString, name);
     QTEST(applied(rule, parametersFor(Lower, true), name), "expected");
+}
+
+/// A file from elsewhere may be named like this: the window froze, or the memory was used up.
+void TestChangeCase::extensionOfTooGreatACostIsLikeAnInvalidOne_data()
+{
+    QTest::addColumn<QString>("extension");
+
+    QTest::newRow("invalid") << u"(A"_s;
+    QTest::newRow("counts of counts") << u"(((A{99}){99}){99}){99}"_s;
+    QTest::newRow("counts of something optional") << u"((A?){99}){99}"_s;
+    QTest::newRow("lookaheads within lookaheads") << u"(?=a*(?=a*(?=a*(?=a*(?=A*$)))))"_s;
+    QTest::newRow("nested") << u"("_s.repeated(120) + u'A' + u")"_s.repeated(120);
+}
+
+void TestChangeCase::extensionOfTooGreatACostIsLikeAnInvalidOne()
+{
+    QFETCH(QString, extension);
+    const QString name = u"A"_s.repeated(200) + u'.' + extension;
+    QCOMPARE(applied(rule, parametersFor(Lower, true), name), name.toLower() + u'.' + extension);
 }
 
 void TestChangeCase::nameWithoutDotLosesItsLastCharacterAndGetsADot_data()

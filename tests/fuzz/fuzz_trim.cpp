@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "fuzztarget.h"
+#include "rules/rulechain.h"
+#include "rules/ruledata.h"
+#include "rules/ruletrim.h"
+
+namespace {
+
+/// Written apart from the rule: which of the characters stay.
+QString expected(const QString &name, const TrimParameters &parameters)
+{
+    qsizetype begin = parameters.position;
+    qsizetype length = parameters.length;
+    if (!parameters.fromStart) {
+        begin = name.size() - parameters.length;
+        length = name.size() - parameters.position;
+        // A begin before the name counts from its end; one before that removes nothing.
+        if (begin < 0)
+            begin += name.size();
+    }
+    QString kept;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const bool isRemoved = begin >= 0 && length > 0 && i >= begin && i - begin < length;
+        if (!isRemoved)
+            kept += name.at(i);
+    }
+    return kept;
+}
+
+} // namespace
+
+int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
+{
+    startFuzzApplication();
+    return 0;
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const RuleTrim rule;
+    FuzzInput input(data, size);
+    TrimParameters parameters;
+    parameters.fromStart = input.flag();
+    parameters.position = input.number(0, 512);
+    parameters.length = input.number(1, 512);
+    const QString name = input.line();
+    const RuleData record{&rule, parameters};
+    const QString result = applyRuleChain(&record, name, 0);
+    FUZZ_VERIFY(result == expected(name, parameters), result);
+    FUZZ_VERIFY(!ruleDescription(&record).isEmpty(), name);
+    return 0;
+}
