@@ -12,6 +12,10 @@
 
 namespace {
 
+// More than any file system takes as a name. Two rules that put a long text between all characters would
+// exhaust the memory otherwise.
+constexpr qsizetype longestResult = 8192;
+
 template <typename Kind>
 class Factory final : public RuleFactory
 {
@@ -29,7 +33,11 @@ QList<RuleFactory *> createRuleFactories()
 
 QString applyRuleChain(const RuleData *data, const QString &name, int fileIndex)
 {
-    return data->rule ? data->rule->apply(data, name, fileIndex) : QString();
+    if (!data->rule)
+        return {};
+    QString result = data->rule->apply(data, name, fileIndex);
+    result.truncate(longestResult);
+    return result;
 }
 
 QString ruleName(const RuleData *data)

@@ -204,7 +204,7 @@ private:
     {
         QCoreApplication::processEvents();
         QVERIFY(window->pathsAgree({tree->path(u"dir/f000"_s), tree->path(u"dir/xf000"_s),
-                                      tree->path(u"more/m000"_s), tree->path(u"gone"_s)}));
+                                    tree->path(u"more/m000"_s), tree->path(u"gone"_s)}));
         QCOMPARE(contents(), expectedContents);
         QVERIFY(!window->waitDialog());
         QVERIFY(!QApplication::activeModalWidget());

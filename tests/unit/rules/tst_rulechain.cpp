@@ -27,6 +27,7 @@ private slots:
     void recordWithoutARuleEmptiesTheName();
     void recordWithoutARuleHasNoTexts();
     void everyRuleOfAChainGetsTheSameRow();
+    void namesGrowNoLongerThanAnyFileSystemTakes();
     void recordsAreUnaffectedByLaterEdits();
 
 private:
@@ -144,6 +145,18 @@ void TestRuleChain::everyRuleOfAChainGetsTheSameRow()
     const RuleData first{rules.at(4).get(), EnumerateParameters{0, 0, 0, true}};
     const RuleData second{rules.at(4).get(), EnumerateParameters{0, 1, 0, true}};
     QCOMPARE(chain({first, second, first}, u"."_s, 41), u"414241."_s);
+}
+
+// Without the bound the second rule would need half a terabyte.
+void TestRuleChain::namesGrowNoLongerThanAnyFileSystemTakes()
+{
+    const RuleData between{rules.at(0).get(),
+                           ReplaceParameters{u""_s, QString(32767, u'x'), false, RegExp()}};
+    const RuleData insert{rules.at(3).get(), InsertTextParameters{u"start"_s, 0, true}};
+    const QString name = chain({between, between, insert}, QString(255, u'a'));
+    QCOMPARE(name.size(), 8192);
+    QVERIFY(name.startsWith("startxxx"_L1));
+    QCOMPARE(chain({insert}, QString(8000, u'a')), "start"_L1 + QString(8000, u'a'));
 }
 
 void TestRuleChain::recordsAreUnaffectedByLaterEdits()

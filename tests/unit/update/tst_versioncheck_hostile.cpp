@@ -61,7 +61,7 @@ private slots:
 void TestVersionCheckHostile::endlessReply_data()
 {
     QTest::addColumn<QByteArray>("head");
-    QTest::newRow("no length") << endlessHead;
+    QTest::newRow("no length") << QByteArray(endlessHead);
     QTest::newRow("a gigabyte") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 1073741824\r\n\r\n");
     QTest::newRow("a lie of a length")
         << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 9223372036854775807\r\n\r\n");
