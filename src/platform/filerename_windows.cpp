@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The path as Windows reads it (a device for "CON", no dots and blanks at the end), without its limit of 260
-/// characters; empty when it cannot be read.
+/// The path as Windows reads it (no dots and blanks at the end), without its limit of 260 characters; empty
+/// when it cannot be read, and when it names a device, such as "CON" or "nul.txt".
 QString extendedPath(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(path);
@@ -20,7 +20,9 @@ QString extendedPath(const QString &path)
     QString full(GetFullPathNameW(name, 0, nullptr, nullptr), QChar::Null);
     full.resize(GetFullPathNameW(name, static_cast<DWORD>(full.size()),
                                  reinterpret_cast<wchar_t *>(full.data()), nullptr));
-    if (full.isEmpty() || full.startsWith("\\\\.\\"_L1) || full.startsWith("\\\\?\\"_L1))
+    if (full.startsWith("\\\\.\\"_L1))
+        return {};
+    if (full.isEmpty() || full.startsWith("\\\\?\\"_L1))
         return full;
     if (full.startsWith("\\\\"_L1))
         return "\\\\?\\UNC\\"_L1 + full.sliced(2);

@@ -66,7 +66,7 @@ class Packages(WindowsCase):
         self.assertFalse({"portable", "portable.txt"} & files)
         self.assertTrue(self.shortcut.exists(), self.shortcut)
         entry = wine("reg", "query", UNINSTALL_KEY)[1]
-        for part in ("Orvanto", "1.2.0.5", "Kavrondel", windows_path(self.installed / "uninstall.exe")):
+        for part in ("Orvanto", harness.VERSION, "Kavrondel", windows_path(self.installed / "uninstall.exe")):
             self.assertIn(part, entry)
 
         harness.write_settings(self.data)
