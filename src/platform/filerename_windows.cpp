@@ -29,6 +29,12 @@ QString extendedPath(const QString &path)
     return "\\\\?\\"_L1 + full;
 }
 
+/// Whether the last part names a stream, in which the content of a file would be out of sight.
+bool isStream(const QString &extended)
+{
+    return extended.indexOf(u':', extended.lastIndexOf(u'\\') + 1) >= 0;
+}
+
 } // namespace
 
 std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to)
@@ -39,7 +45,7 @@ std::optional<bool> renameWithoutReplacing(const QString &from, const QString &t
     const QString source = extendedPath(from);
     const QString target = extendedPath(to);
     // Moving a file onto itself succeeds; here it is a target that exists.
-    if (source.isEmpty() || target.isEmpty() || source == target)
+    if (source.isEmpty() || target.isEmpty() || source == target || isStream(target))
         return false;
     const auto *targetName = reinterpret_cast<const wchar_t *>(target.utf16());
     // So may moving one of two names of a file onto the other.

@@ -146,6 +146,24 @@ private slots:
         QCOMPARE(readFile(u"a"_s), "a");
     }
 
+    void renameRefusesStreams_data()
+    {
+        QTest::addColumn<QString>("stream");
+
+        for (const char *stream : {"a:b", "b:c", "b:", ":b", "a::$DATA"})
+            QTest::newRow(stream) << QString::fromLatin1(stream);
+    }
+
+    void renameRefusesStreams()
+    {
+        QFETCH(QString, stream);
+        const TestFolder folder;
+        QVERIFY(writeFile(u"a"_s, "a"));
+        QVERIFY(!renameFile(folder.path(u"a"_s), folder.path() + u'/' + stream));
+        QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
+        QCOMPARE(readFile(u"a"_s), "a");
+    }
+
     void renameDropsDotsAndBlanksAtTheEnd()
     {
         const TestFolder folder;
