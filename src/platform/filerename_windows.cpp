@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The path as Windows reads it (a device for "CON", no dots and blanks at the end), without its limit of 260
-/// characters; empty when it cannot be read.
+/// The path as Windows reads it (no dots and blanks at the end), without its limit of 260 characters; empty
+/// when it cannot be read, and when it names a device, such as "CON" or "nul.txt".
 QString extendedPath(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(path);
@@ -20,11 +20,19 @@ QString extendedPath(const QString &path)
     QString full(GetFullPathNameW(name, 0, nullptr, nullptr), QChar::Null);
     full.resize(GetFullPathNameW(name, static_cast<DWORD>(full.size()),
                                  reinterpret_cast<wchar_t *>(full.data()), nullptr));
-    if (full.isEmpty() || full.startsWith("\\\\.\\"_L1) || full.startsWith("\\\\?\\"_L1))
+    if (full.startsWith("\\\\.\\"_L1))
+        return {};
+    if (full.isEmpty() || full.startsWith("\\\\?\\"_L1))
         return full;
     if (full.startsWith("\\\\"_L1))
         return "\\\\?\\UNC\\"_L1 + full.sliced(2);
     return "\\\\?\\"_L1 + full;
+}
+
+/// Whether the last part names a stream, in which the content of a file would be out of sight.
+bool isStream(const QString &extended)
+{
+    return extended.indexOf(u':', extended.lastIndexOf(u'\\') + 1) >= 0;
 }
 
 } // namespace
@@ -37,7 +45,7 @@ std::optional<bool> renameWithoutReplacing(const QString &from, const QString &t
     const QString source = extendedPath(from);
     const QString target = extendedPath(to);
     // Moving a file onto itself succeeds; here it is a target that exists.
-    if (source.isEmpty() || target.isEmpty() || source == target)
+    if (source.isEmpty() || target.isEmpty() || source == target || isStream(target))
         return false;
     const auto *targetName = reinterpret_cast<const wchar_t *>(target.utf16());
     // So may moving one of two names of a file onto the other.

@@ -11,6 +11,20 @@ projectVersion() { sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$buildDir/CMake
 # forWindows FILE NEW: copies a text with Windows' line ends.
 forWindows() { sed 's/\r*$/\r/' "$1" > "$2"; }
 
+# libraryText: what is said about the libraries, with the versions of this build.
+libraryText() {
+    local package
+    package=$(sed 's/.*, //' "$qtStamp")
+    sed -e "s/@VERSION@/$(projectVersion)/g" -e "s/@QT_PACKAGE@/$package/g" -e "s/@QT_VERSION@/${package%%+*}/g" \
+        "$windowsDir/libraries.txt"
+}
+
+# The time that the packages bear, so that packing twice gives the same bytes: that of the last commit.
+packageTime() {
+    echo "${SOURCE_DATE_EPOCH:-$(git -C "$projectDir" log -1 --format=%ct 2> /dev/null ||
+        stat -c %Y "$projectDir/CHANGELOG.md")}"
+}
+
 # stageFiles: what both packages hold. The licence texts of the libraries come from the Debian packages that
 # the build uses.
 stageFiles() {
@@ -20,12 +34,13 @@ stageFiles() {
     cp "$buildDir/bin/orvanto.exe" "$stageDir"
     cp -r "$buildDir/bin/locale" "$stageDir/locale"
     forWindows "$projectDir/LICENSE" "$stageDir/LICENSE.txt"
-    forWindows "$windowsDir/libraries.txt" "$stageDir/licences/README.txt"
+    libraryText | forWindows /dev/stdin "$stageDir/licences/README.txt"
     forWindows /usr/share/common-licenses/LGPL-3 "$stageDir/licences/LGPL-3.txt"
     forWindows /usr/share/common-licenses/GPL-3 "$stageDir/licences/GPL-3.txt"
     forWindows /usr/share/doc/libqt6core6/copyright "$stageDir/licences/Qt.txt"
     forWindows /usr/share/doc/mingw-w64-common/copyright "$stageDir/licences/mingw-w64.txt"
     forWindows /usr/share/doc/gcc-mingw-w64-base/copyright "$stageDir/licences/GCC.txt"
+    find "$stageDir" -exec touch -d "@$(packageTime)" {} +
 }
 
 buildZip() {
@@ -38,7 +53,8 @@ buildZip() {
     rm -rf "$zip" "${buildDir:?}/$name"
     cp -r "$stageDir" "$buildDir/$name"
     forWindows "$windowsDir/portable.txt" "$buildDir/$name/portable.txt"
-    (cd "$buildDir" && zip -q -9 -X -r "$zip" "$name")
+    find "$buildDir/$name" -exec touch -d "@$(packageTime)" {} +
+    (cd "$buildDir" && find "$name" | LC_ALL=C sort | TZ=UTC zip -q -9 -X -@ "$zip")
     rm -rf "${buildDir:?}/$name"
     printf 'Packed %s (%s bytes)\n' "$zip" "$(stat -c %s "$zip")"
 }

@@ -10,9 +10,8 @@ buildProgram() {
     qtCmake -S "$projectDir" -B "$buildDir" -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s \
         -DCMAKE_CROSSCOMPILING_EMULATOR="$windowsDir/wine-run"
     ninja -C "$buildDir" -j "$jobs"
-    local program
-    program=$(find "$buildDir" -name orvanto.exe -print -quit)
-    [[ -n $program ]] || fail "the build made no orvanto.exe below $buildDir"
+    local program=$buildDir/bin/orvanto.exe
+    [[ -f $program ]] || fail "the build made no $program"
     requireSystemLibraries "$program"
     printf 'Built %s (%s bytes)\n' "$program" "$(stat -c %s "$program")"
 }

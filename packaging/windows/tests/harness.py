@@ -10,10 +10,12 @@ import os
 import pathlib
 import shutil
 import subprocess
+import tempfile
 import time
 import unittest
 import xml.etree.ElementTree as ET
 
+VERSION = os.environ["ORVANTO_VERSION"]
 DEADLINE = 60
 SHORT = 5
 DRIVE_C = (pathlib.Path(os.environ["WINEPREFIX"]) / "drive_c").resolve()
@@ -83,9 +85,9 @@ def xdotool(*arguments):
     return run("xdotool", *arguments).stdout.decode().split()
 
 
-def titles():
-    """The titles of all windows on the screen, for messages."""
-    return {run("xdotool", "getwindowname", number).stdout.decode().strip()
+def windows():
+    """All windows on the screen: numbers and titles."""
+    return {number: run("xdotool", "getwindowname", number).stdout.decode().strip()
             for number in xdotool("search", "--onlyvisible", "--name", ".")}
 
 
@@ -95,11 +97,12 @@ def width_of(number):
 
 
 class Window:
-    def __init__(self, title, least_width=0):
+    def __init__(self, title, least_width=0, besides=()):
+        """besides: the numbers of other windows with that title."""
         def find():
             numbers = xdotool("search", "--onlyvisible", "--name", f"^{title}$")
-            return [number for number in numbers if width_of(number) >= least_width]
-        self.number = until(find, f"the window {title!r}; there are {titles()}")[-1]
+            return [number for number in numbers if number not in besides and width_of(number) >= least_width]
+        self.number = until(find, f"the window {title!r}; there are {windows()}")[-1]
         self.title = title
 
     def is_there(self):
@@ -162,9 +165,20 @@ class Window:
 class Program:
     """One run of an orvanto.exe somewhere on the drive C:."""
 
-    def __init__(self, executable):
+    def __init__(self, executable, traced=None):
+        """traced: a part of Wine whose calls are kept, for calls()."""
+        debug = {"WINEDEBUG": f"+{traced}"} if traced else {}
+        self._errors = tempfile.TemporaryFile()
         self.process = subprocess.Popen(["wine", windows_path(executable)], stdin=subprocess.DEVNULL,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                                        stdout=subprocess.DEVNULL, stderr=self._errors,
+                                        env={**os.environ, **debug})
+        self._traced = f":{traced}:"
+
+    def calls(self):
+        """What the traced part of Wine was asked for, one line each."""
+        self._errors.seek(0)
+        lines = self._errors.read().decode(errors="replace").splitlines()
+        return [line.partition(self._traced)[2] for line in lines if self._traced in line]
 
     def main_window(self):
         # The splash and the boxes have the same title.
@@ -179,6 +193,7 @@ class Program:
         if self.process.poll() is None:
             run("wineserver", "-k")
             self.process.wait(DEADLINE)
+        self._errors.close()
 
 
 def open_folder(window):
@@ -249,6 +264,7 @@ class WindowsCase(unittest.TestCase):
         self.data = roaming() / "Kavrondel" / "Orvanto"
         self.addCleanup(self.clean_up)
         self.clean_up()
+        self.close_windows()
         FOLDER.mkdir()
 
     def clean_up(self):
@@ -256,10 +272,39 @@ class WindowsCase(unittest.TestCase):
             shutil.rmtree(folder, ignore_errors=True)
         run("wine", "reg", "delete", RUN_KEY, "/v", "Pendulix Basic", "/f")
 
-    def start(self, executable):
-        program = Program(executable)
+    def close_windows(self):
+        """Closes what earlier tests left open: the explorer with a folder."""
+        def closed():
+            numbers = [line.split()[0] for line in run("wmctrl", "-l").stdout.decode().splitlines()]
+            for number in numbers:
+                run("wmctrl", "-i", "-c", number)
+            return not numbers
+        until(closed, "the windows of earlier tests to close")
+
+    def start(self, executable, traced=None):
+        program = Program(executable, traced)
         self.addCleanup(program.end)
         return program
+
+    def start_settled(self, traced=None, **settings):
+        """The program with its main window."""
+        changed = {name.replace("__", "."): value for name, value in settings.items()}
+        write_settings(self.data, {**SETTLED, **changed})
+        program = self.start(self.copy_program(), traced)
+        return program, program.main_window()
+
+    def close(self, program, window):
+        window.close()
+        self.assertEqual(program.exit_code(), 0)
+
+    def settings(self):
+        """The settings on disk: dotted names and texts."""
+        def flat(element, path):
+            for child in element:
+                name = ".".join([*path, child.tag])
+                yield name, child.text or ""
+                yield from flat(child, [*path, child.tag])
+        return dict(flat(ET.parse(self.data / "config" / "global.xml").getroot(), []))
 
     def screenshot(self, name):
         folder = os.environ.get("ORVANTO_SCREENSHOTS")

@@ -2,15 +2,22 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/autostart.h"
+#include "platform/errorbox.h"
+#include "platform/filerename.h"
 #include "platform/osversion.h"
 #include "platform/shell.h"
 #include "platform/taskbar.h"
 #include "platform/userdatafolder.h"
+#include "unit/support/testfolder.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 #include <QTest>
+
+#include <windows.h>
+
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -91,6 +98,95 @@ private slots:
     {
         reg({u"add"_s, runKey, u"/v"_s, u"Pendulix Basic"_s, u"/d"_s, u"C:\\orvanto.exe -auto"_s, u"/f"_s});
         QVERIFY(!isAutoStartEnabled());
+    }
+
+    void errorBoxHasNoOwnerAndReadsUtf8()
+    {
+        const QString title = u"Ж %1"_s.arg(QCoreApplication::applicationPid());
+        HWND box = nullptr;
+        HWND owner = nullptr;
+        wchar_t text[100] = {};
+        bool hasIcon = false;
+        std::thread user([&] {
+            while (!(box = FindWindowW(nullptr, reinterpret_cast<const wchar_t *>(title.utf16()))) ||
+                   !IsWindowVisible(box))
+                QThread::yieldCurrentThread();
+            owner = GetWindow(box, GW_OWNER);
+            for (HWND part = nullptr; (part = FindWindowExW(box, part, L"Static", nullptr)) != nullptr;) {
+                if ((GetWindowLongW(part, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
+                    hasIcon = true;
+                else
+                    GetWindowTextW(part, text, 100);
+            }
+            PostMessageW(box, WM_COMMAND, IDOK, 0);
+        });
+        showErrorBox(title.toUtf8().constData(), "Dîner, 日本");
+        user.join();
+        QCOMPARE(owner, nullptr);
+        QVERIFY(hasIcon);
+        QCOMPARE(QString::fromWCharArray(text), u"Dîner, 日本"_s);
+    }
+
+    void renameRefusesDevices_data()
+    {
+        QTest::addColumn<QString>("device");
+
+        for (const char *device :
+             {"CON", "prn", "AUX", "NUL", "COM1", "LPT9", "con.txt", "nul.tar.gz", "aux .txt"})
+            QTest::newRow(device) << QString::fromLatin1(device);
+    }
+
+    void renameRefusesDevices()
+    {
+        QFETCH(QString, device);
+        const TestFolder folder;
+        QVERIFY(writeFile(u"a"_s, "a"));
+        QVERIFY(!renameFile(folder.path(u"a"_s), folder.path(device)));
+        QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
+        QCOMPARE(readFile(u"a"_s), "a");
+    }
+
+    void renameRefusesStreams_data()
+    {
+        QTest::addColumn<QString>("stream");
+
+        for (const char *stream : {"a:b", "b:c", "b:", ":b", "a::$DATA"})
+            QTest::newRow(stream) << QString::fromLatin1(stream);
+    }
+
+    void renameRefusesStreams()
+    {
+        QFETCH(QString, stream);
+        const TestFolder folder;
+        QVERIFY(writeFile(u"a"_s, "a"));
+        QVERIFY(!renameFile(folder.path(u"a"_s), folder.path() + u'/' + stream));
+        QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
+        QCOMPARE(readFile(u"a"_s), "a");
+    }
+
+    void renameDropsDotsAndBlanksAtTheEnd()
+    {
+        const TestFolder folder;
+        QVERIFY(writeFile(u"a"_s, "a"));
+        QVERIFY(renameFile(folder.path(u"a"_s), folder.path(u"b. ."_s)));
+        QCOMPARE(entriesOf(folder.path()), QStringList(u"b"_s));
+        // The name without them may be taken.
+        QVERIFY(writeFile(u"c"_s, "c"));
+        QVERIFY(!renameFile(folder.path(u"c"_s), folder.path(u"b."_s)));
+        QCOMPARE(readFile(u"b"_s), "a");
+        QCOMPARE(readFile(u"c"_s), "c");
+    }
+
+    void renameGoesBeyond260Characters()
+    {
+        const TestFolder folder;
+        const QString deep = folder.path(QString(3, u'x').replace(u'x', QString(100, u'd') + u'/') + u"a"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(deep).path()));
+        QVERIFY(writeFile(deep, "a"));
+        QVERIFY(deep.size() > MAX_PATH);
+        QVERIFY(renameFile(deep, deep + u'Ж'));
+        QVERIFY(!QFileInfo::exists(deep));
+        QCOMPARE(readFile(deep + u'Ж'), "a");
     }
 
     void taskbarIsConnectedTo()
