@@ -84,7 +84,8 @@ def measure(place, count, programs):
 
 def table(title, count, figures):
     bare = statistics.median(figures[BARE])
-    lines = [f"{count:,} files, {title}", "", "| tool | median | fastest to slowest | per file | beside the bare calls |",
+    lines = [f"{count:,} files, {title}", "",
+             "| tool | median | fastest to slowest | per file | beside the bare calls |",
              "|---|---:|---:|---:|---:|"]
     for tool, seconds in sorted(figures.items(), key=lambda item: statistics.median(item[1])):
         median = statistics.median(seconds)
@@ -102,7 +103,8 @@ def plot(target, count, results):
     script = "\n".join([
         "set terminal svg size 900,420 font 'DejaVu Sans,12' background 'white'", f"set output '{target}'",
         "set style data histograms", "set style fill solid 0.8 border -1", "set boxwidth 0.9", "set grid ytics",
-        "set xtics rotate by -20", f"set title '{count:,} files: microseconds for each file, median of {ROUNDS} rounds'",
+        "set xtics rotate by -20",
+        f"set title '{count:,} files: microseconds for each file, median of {ROUNDS} rounds'",
         "set yrange [0:*]", "set key left top", "$rows << end", *rows, "end", "plot " + columns])
     subprocess.run(["gnuplot"], input=script, text=True, check=True)
 

@@ -55,7 +55,8 @@ def idle_memory(pid):
 
 
 def measure(desktop, screen, binary, home):
-    program = Program(desktop, home, binary=binary, settings=SETTLED, environment={"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": None})
+    program = Program(desktop, home, binary=binary, settings=SETTLED,
+                      environment={"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": None})
     seconds = seconds_until_painted(screen, program)
     time.sleep(IDLE)
     memory = idle_memory(program.process.pid)
@@ -67,7 +68,8 @@ def measure(desktop, screen, binary, home):
 def main():
     programs = pathlib.Path(sys.argv[1]).resolve()
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
-    binaries = {"empty Qt window": programs / "orvanto_benchmark_window", "Orvanto, without the splash": programs / "orvanto"}
+    binaries = {"empty Qt window": programs / "orvanto_benchmark_window",
+                "Orvanto, without the splash": programs / "orvanto"}
     figures = {title: [] for title in binaries}
     desktop = Desktop(window_manager=False)
     try:
@@ -84,7 +86,8 @@ def main():
     finally:
         desktop.stop()
     bare = statistics.median(row[0] for row in figures["empty Qt window"])
-    print("| program | start, median | fastest to slowest | beside the empty window | memory, proportional | its own alone |")
+    print("| program | start, median | fastest to slowest | beside the empty window "
+          "| memory, proportional | its own alone |")
     print("|---|---:|---:|---:|---:|---:|")
     for title, rows in figures.items():
         seconds, proportional, own = ([row[column] for row in rows] for column in range(3))

@@ -163,8 +163,6 @@ private slots:
         QFETCH(QString, other);
         QFETCH(int, succeeds);
         QFETCH(int, unknown);
-        if (is(unknown))
-            return;
         write(from, "content");
         if (obstacle == File)
             write(other, "in the way");
@@ -177,6 +175,11 @@ private slots:
             return; // no links, nothing in the way
         QVERIFY(before.contains(from));
         const bool renamed = renameFile(path(from), path(to));
+        if (is(unknown)) {
+            // Whatever the answer, and by whatever name, the file is there.
+            QCOMPARE(contents().values(), before.values());
+            return;
+        }
         QCOMPARE(renamed, is(succeeds));
         Contents expected = before;
         if (renamed)

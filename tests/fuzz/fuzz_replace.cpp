@@ -8,6 +8,9 @@
 
 namespace {
 
+// Of what a rule makes the chain keeps so many characters; docs/patterns.md says why.
+constexpr qsizetype longestResult = 8192;
+
 /// Written apart from the rule: one match after the other, from the start.
 QString replacedLiterally(const QString &name, const QString &what, const QString &with)
 {
@@ -29,13 +32,14 @@ void verifyLiteral(const QString &name, const ReplaceParameters &parameters, con
 {
     if (parameters.replaceWhat == parameters.replaceWith)
         FUZZ_VERIFY(result == name || name.isEmpty() || parameters.replaceWhat.isEmpty(), result);
-    FUZZ_VERIFY(result == replacedLiterally(name, parameters.replaceWhat, parameters.replaceWith), result);
+    const QString whole = replacedLiterally(name, parameters.replaceWhat, parameters.replaceWith);
+    FUZZ_VERIFY(result == whole.left(longestResult), result);
 }
 
 /// What can be said of any pattern.
 void verifyPattern(const RegExp &pattern, const QString &name, const QString &with, const QString &result)
 {
-    FUZZ_VERIFY(pattern.replacedIn(name, with) == result, result);
+    FUZZ_VERIFY(pattern.replacedIn(name, with).left(longestResult) == result, result);
     const QString removed = pattern.removedFrom(name);
     FUZZ_VERIFY(removed == pattern.replacedIn(name, QString()), removed);
     // What is left is the name without some of its characters, in their order.

@@ -223,8 +223,7 @@ private:
 private slots:
     void initTestCase()
     {
-        // Nothing reaches the user's own desktop, nor the network.
-        qputenv("XDG_CONFIG_HOME", "/nonexistent");
+        // Nothing reaches the network.
         VersionCheck::service().address = QUrl(u"http://127.0.0.1:9"_s);
         QApplication::setStyle(u"Fusion"_s);
         applyLook();
@@ -234,6 +233,9 @@ private slots:
     {
         settings = std::make_unique<TestSettings>();
         tree = std::make_unique<TempTree>();
+        // Nothing reaches the user's own desktop. A folder that can be made is one that goes again: root
+        // would make any other as well.
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(settings->tree.path(u"desktop"_s)));
     }
 
     void cleanup()

@@ -15,6 +15,14 @@
 namespace {
 
 SystemFaults *active = nullptr;
+const std::thread::id mainThread = std::this_thread::get_id();
+
+/// For the main thread alone, which also adds and clears faults: those of Qt that write meanwhile to wake
+/// each other up are left alone.
+SystemFaults *injector()
+{
+    return std::this_thread::get_id() == mainThread ? active : nullptr;
+}
 
 /// The C library's own function, or the sanitizer's in front of it.
 template <typename Function>
@@ -33,7 +41,8 @@ std::string pathOf(int descriptor)
 template <typename Operation>
 int through(SystemCall call, const char *path, const Operation &operation)
 {
-    const Fault *fault = active ? active->next(call, path) : nullptr;
+    SystemFaults *faults = injector();
+    const Fault *fault = faults ? faults->next(call, path) : nullptr;
     if (!fault)
         return operation();
     std::this_thread::sleep_for(std::chrono::milliseconds(fault->delay));
@@ -103,14 +112,15 @@ int unlink(const char *path) noexcept
 int fdatasync(int descriptor)
 {
     static const auto real = original<decltype(&fdatasync)>("fdatasync");
-    return through(SystemCall::Sync, active ? pathOf(descriptor).c_str() : "",
+    return through(SystemCall::Sync, injector() ? pathOf(descriptor).c_str() : "",
                    [&] { return real(descriptor); });
 }
 
 ssize_t write(int descriptor, const void *data, size_t size)
 {
     static const auto real = original<decltype(&write)>("write");
-    Fault *fault = active ? active->next(SystemCall::Write, pathOf(descriptor).c_str()) : nullptr;
+    SystemFaults *faults = injector();
+    Fault *fault = faults ? faults->next(SystemCall::Write, pathOf(descriptor).c_str()) : nullptr;
     if (!fault || fault->error == 0)
         return real(descriptor, data, size);
     // A full disk takes what still fits.

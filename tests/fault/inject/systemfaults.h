@@ -24,7 +24,7 @@ struct Fault
     long long room = 0; ///< so many bytes can still be written before a write fails
 };
 
-/// While it lives, system calls of this process fail as told: Qt and the program come to the functions of
+/// While it lives, system calls of the main thread fail as told: Qt and the program come to the functions of
 /// systemfaults.cpp instead of the C library's, which the executable that holds them hides.
 class SystemFaults
 {
