@@ -11,7 +11,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QStackedWidget>
-#include <QStringDecoder>
 #include <QUrl>
 
 #include <algorithm>
@@ -41,10 +40,7 @@ QString localPath(const QUrl &url)
     QString path = url.toLocalFile();
     if (!path.contains(QChar::ReplacementCharacter))
         return path;
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    [[maybe_unused]] const QString text =
-        decoder(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
-    if (decoder.hasError())
+    if (!QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).isValidUtf8())
         path.replace(QChar::ReplacementCharacter, QChar(0xD800));
     return path;
 }

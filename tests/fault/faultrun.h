@@ -30,7 +30,7 @@ public:
     /// Files with their own names in them, all of them listed.
     QStringList plant(const QString &pattern, int count)
     {
-        const QStringList paths = tree.addFiles(pattern, count);
+        QStringList paths = tree.addFiles(pattern, count);
         window.drop(paths);
         return paths;
     }

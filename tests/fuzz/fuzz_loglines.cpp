@@ -56,7 +56,7 @@ void verifyTable(const QStringList &lines)
     FUZZ_VERIFY(AppLog::instance()->pendingLines().isEmpty(), lines.join(u'/'));
     FUZZ_VERIFY(table->rowCount() == std::min<qsizetype>(lines.size(), mostRows), lines.join(u'/'));
     for (int row = 0; row < table->rowCount(); ++row) {
-        const QString line = lines.at(lines.size() - 1 - row);
+        const QString &line = lines.at(lines.size() - 1 - row);
         FUZZ_VERIFY(table->item(row, 0)->text() == line.section(u'|', 0, 0), line);
         FUZZ_VERIFY(table->item(row, 1)->text() == line.section(u'|', 1, 1), line);
     }

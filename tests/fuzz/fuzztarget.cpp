@@ -9,12 +9,12 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <utility>
 
 namespace {
 
 /// Removed when the process ends in good order; a finding leaves its folder behind.
-std::unique_ptr<QTemporaryDir> folder;
+QTemporaryDir *folder = nullptr;
 
 } // namespace
 
@@ -35,11 +35,11 @@ void startFuzzApplication()
     new QApplication(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("Orvanto"));
     QApplication::setApplicationVersion(QStringLiteral("1.2.0.5"));
-    folder = std::make_unique<QTemporaryDir>();
+    folder = new QTemporaryDir;
     FUZZ_VERIFY(folder->isValid() && QDir::setCurrent(folder->path()), folder->errorString());
     std::atexit([] {
         QDir::setCurrent(QDir::rootPath());
-        folder.reset();
+        delete std::exchange(folder, nullptr);
     });
 }
 

@@ -60,7 +60,7 @@ public:
     /// All that is left.
     [[nodiscard]] QByteArray rest()
     {
-        const QByteArray bytes(reinterpret_cast<const char *>(next), static_cast<qsizetype>(left));
+        QByteArray bytes(reinterpret_cast<const char *>(next), static_cast<qsizetype>(left));
         next += left;
         left = 0;
         return bytes;

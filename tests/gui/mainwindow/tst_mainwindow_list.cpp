@@ -279,7 +279,7 @@ private:
     void changeBoth(QStringList &model, const QStringList &pool, QRandomGenerator &random) const
     {
         const auto size = static_cast<int>(model.size());
-        const QString path = pool.at(random.bounded(static_cast<int>(pool.size())));
+        const QString &path = pool.at(random.bounded(static_cast<int>(pool.size())));
         const int row = size > 0 ? random.bounded(size) : 0;
         switch (const int what = random.bounded(20); what) {
         case 0:

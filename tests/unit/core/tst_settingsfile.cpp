@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype mebibyte = qsizetype{1024} * 1024;
 constexpr qsizetype largestFile = 16 * mebibyte;
 
 /// "<Settings>" and elements in it down to this depth, with a language beside them.

@@ -34,7 +34,7 @@ public:
 
     QString translate(const char *context, const char *source, const char *comment, int n) const override
     {
-        const QString text = QTranslator::translate(context, source, comment, n);
+        QString text = QTranslator::translate(context, source, comment, n);
         if (text.isEmpty() && isSeen(QLatin1StringView(context), QLatin1StringView(source)))
             missing.append(QString::fromUtf8(context) + ": "_L1 + QString::fromUtf8(source));
         return text;
