@@ -66,14 +66,18 @@ public:
         return folder + '/' + last;
     }
 
-    /// Whether something is there that can be opened: a link counts only with its target.
+    /// Whether something is there that can be opened: a link counts only with its target, and links that lead
+    /// in a circle lead nowhere.
     [[nodiscard]] bool exists(const QByteArray &path) const
     {
-        const QByteArray node = nodes.value(path);
-        if (!node.startsWith('L'))
-            return !node.isEmpty();
-        const auto target = resolve(QFile::decodeName(node.mid(1)));
-        return target && *target != path && exists(*target);
+        std::optional<QByteArray> place = path;
+        for (int links = 0; place && links <= maxLinks; ++links) {
+            const QByteArray node = nodes.value(*place);
+            if (!node.startsWith('L'))
+                return !node.isEmpty();
+            place = resolve(QFile::decodeName(node.mid(1)));
+        }
+        return false;
     }
 
     /// Moves what is at one path to another that must be free; false where that is not possible.
@@ -116,6 +120,7 @@ public:
 
 private:
     static constexpr qsizetype maxName = 255;
+    static constexpr qsizetype maxLinks = 40; // on the way to one file
 
     static QByteArray describe(const QFileInfo &entry)
     {

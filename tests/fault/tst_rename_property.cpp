@@ -217,6 +217,8 @@ private slots:
         const auto seed = static_cast<quint32>(environmentNumber(
             "ORVANTO_SEED", QRandomGenerator::system()->bounded(std::numeric_limits<int>::max())));
         const int rounds = environmentNumber("ORVANTO_ROUNDS", 3000);
+        // Now, too: a crash leaves no time for it.
+        std::fprintf(stderr, "ORVANTO_SEED=%u ORVANTO_ROUNDS=%d\n", seed, rounds);
         for (int round = 0; round < rounds; ++round) {
             // One generator per round: a failing round can be repeated alone.
             const quint32 roundSeed = seed + static_cast<quint32>(round);
@@ -234,8 +236,8 @@ private slots:
                 return;
             }
         }
-        std::fprintf(stderr, "ORVANTO_SEED=%u, %d rounds: %d files renamed, %d refused, %d runs discarded\n",
-                     seed, rounds, renamed, refused, discarded);
+        std::fprintf(stderr, "%d files renamed, %d refused, %d runs discarded\n", renamed, refused,
+                     discarded);
         // Input that never gets anywhere would prove nothing.
         if (rounds >= 1000) {
             QVERIFY(renamed > rounds);
