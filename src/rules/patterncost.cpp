@@ -17,6 +17,9 @@ constexpr double nameLength = 255;
 constexpr double maxSteps = 2e8;
 // A count above this is an error to the engine.
 constexpr int maxCount = 1024;
+// One automaton takes no more lookaheads than this: with more the pattern is invalid, but only after the
+// engine has built each of them.
+constexpr double maxLookaheads = 13;
 // A back-reference waits, once for each place where it may have begun, until its end is reached.
 constexpr double edgesOfABackReference = 64;
 // Every state carries the captures of its path along.
@@ -26,14 +29,15 @@ constexpr double capturesThatDoubleTheWork = 8;
 /// counts overflows them.
 struct Part
 {
-    double first = 0;  ///< states that a match may begin with
-    double last = 0;   ///< states that a match may end with
-    double edges = 0;  ///< transitions, those with lookaheads counted by the work of these
-    double length = 0; ///< characters that a match has at most
-    double head = 0;   ///< work of the lookaheads before each state of first
-    double tail = 0;   ///< work of the lookaheads behind each state of last
-    double skip = 0;   ///< work of the lookaheads where it matches no character
-    double read = 0;   ///< characters read to compile it
+    double first = 0;      ///< states that a match may begin with
+    double last = 0;       ///< states that a match may end with
+    double edges = 0;      ///< transitions, those with lookaheads counted by the work of these
+    double length = 0;     ///< characters that a match has at most
+    double head = 0;       ///< work of the lookaheads before each state of first
+    double tail = 0;       ///< work of the lookaheads behind each state of last
+    double skip = 0;       ///< work of the lookaheads where it matches no character
+    double read = 0;       ///< characters read to compile it
+    double lookaheads = 0; ///< of the automaton itself, those that are repeated by a count once for each time
     bool isNullable = true;
 };
 
@@ -48,6 +52,7 @@ Part inSequence(const Part &left, const Part &right)
     both.skip = left.skip + right.skip;
     both.length = left.length + right.length;
     both.read = left.read + right.read;
+    both.lookaheads = left.lookaheads + right.lookaheads;
     both.isNullable = left.isNullable && right.isNullable;
     return both;
 }
@@ -63,6 +68,7 @@ Part eitherOf(const Part &left, const Part &right)
     either.tail = std::max(left.tail, right.tail);
     either.skip = left.skip + right.skip;
     either.read = left.read + right.read;
+    either.lookaheads = left.lookaheads + right.lookaheads;
     either.isNullable = left.isNullable || right.isNullable;
     return either;
 }
@@ -84,6 +90,7 @@ public:
     }
 
     [[nodiscard]] bool isTooDeep() const { return tooDeep; }
+    [[nodiscard]] bool hasTooManyLookaheads() const { return tooManyLookaheads; }
     [[nodiscard]] int captureCount() const { return captures; }
 
     Part readAlternatives()
@@ -175,7 +182,9 @@ private:
         take(u')');
         if (!isLookahead)
             return inside;
+        tooManyLookaheads = tooManyLookaheads || inside.lookaheads > maxLookaheads;
         Part lookahead;
+        lookahead.lookaheads = 1;
         lookahead.skip = workPerStart(inside);
         lookahead.read = inside.read;
         return lookahead;
@@ -245,6 +254,7 @@ private:
     int depth = 0;
     int captures = 0;
     bool tooDeep = false;
+    bool tooManyLookaheads = false;
 };
 
 } // namespace
@@ -255,5 +265,7 @@ bool isAffordablePattern(QStringView pattern)
     const Part whole = reader.readAlternatives();
     const double steps =
         nameLength * workPerStart(whole) * (1 + reader.captureCount() / capturesThatDoubleTheWork);
-    return !reader.isTooDeep() && whole.read <= maxCharactersRead && steps <= maxSteps;
+    if (reader.isTooDeep() || reader.hasTooManyLookaheads() || whole.lookaheads > maxLookaheads)
+        return false;
+    return whole.read <= maxCharactersRead && steps <= maxSteps;
 }
