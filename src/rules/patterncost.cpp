@@ -20,6 +20,9 @@ constexpr int maxCount = 1024;
 // One automaton takes no more lookaheads than this: with more the pattern is invalid, but only after the
 // engine has built each of them.
 constexpr double maxLookaheads = 13;
+// The highest capture that the engine lets a back-reference name. With a number beyond its integers it
+// crashes.
+constexpr int maxBackReference = 14;
 // A back-reference waits, once for each place where it may have begun, until its end is reached.
 constexpr double edgesOfABackReference = 64;
 // Every state carries the captures of its path along.
@@ -80,6 +83,12 @@ double workPerStart(const Part &part)
     return 1 + part.skip + part.first * (1 + part.head) + rounds * (part.edges + part.last * (1 + part.tail));
 }
 
+/// Digits of other scripts are letters to the engine.
+bool isDigit(QChar character)
+{
+    return character >= u'0' && character <= u'9';
+}
+
 /// Reads a pattern the way the engine's parser does.
 class PatternReader final
 {
@@ -91,6 +100,7 @@ public:
 
     [[nodiscard]] bool isTooDeep() const { return tooDeep; }
     [[nodiscard]] bool hasTooManyLookaheads() const { return tooManyLookaheads; }
+    [[nodiscard]] bool hasTooHighReference() const { return refersTooFar; }
     [[nodiscard]] int captureCount() const { return captures; }
 
     Part readAlternatives()
@@ -145,7 +155,7 @@ private:
     int readCount(int valueWithoutDigits)
     {
         int count = valueWithoutDigits;
-        for (; !isAtEnd() && pattern.at(position).isDigit(); ++position)
+        for (; !isAtEnd() && isDigit(pattern.at(position)); ++position)
             count = std::min(std::max(count, 0) * 10 + pattern.at(position).digitValue(), maxCount);
         return count;
     }
@@ -198,10 +208,10 @@ private:
         if (character == u'b' || character == u'B')
             return {};
         Part part = state();
-        if (character.isDigit() && character != u'0') {
+        if (isDigit(character) && character != u'0') {
             // A back-reference; what it refers to may be empty.
-            while (!isAtEnd() && pattern.at(position).isDigit())
-                ++position;
+            --position;
+            refersTooFar = refersTooFar || readCount(0) > maxBackReference;
             part.length = nameLength;
             part.isNullable = true;
             part.edges = edgesOfABackReference;
@@ -255,6 +265,7 @@ private:
     int captures = 0;
     bool tooDeep = false;
     bool tooManyLookaheads = false;
+    bool refersTooFar = false;
 };
 
 } // namespace
@@ -265,7 +276,9 @@ bool isAffordablePattern(QStringView pattern)
     const Part whole = reader.readAlternatives();
     const double steps =
         nameLength * workPerStart(whole) * (1 + reader.captureCount() / capturesThatDoubleTheWork);
-    if (reader.isTooDeep() || reader.hasTooManyLookaheads() || whole.lookaheads > maxLookaheads)
+    if (reader.isTooDeep() || reader.hasTooHighReference())
+        return false;
+    if (reader.hasTooManyLookaheads() || whole.lookaheads > maxLookaheads)
         return false;
     return whole.read <= maxCharactersRead && steps <= maxSteps;
 }

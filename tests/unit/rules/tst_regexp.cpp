@@ -121,6 +121,8 @@ void TestRegExp::patternOfTooGreatACostMatchesNothing_data()
     QTest::newRow("denied lookaheads within loops") << u"(?:a(?!(?:a(?!.*c)|a)*c)|a)*b"_s;
     QTest::newRow("lookaheads without number") << u"(?=((?=((?!b)){69})(?=a)|.*)).*|.*"_s;
     QTest::newRow("back-references") << u"(a*)"_s + u"\\1*"_s.repeated(300) + u'b';
+    QTest::newRow("back-reference beyond all integers") << u"a\\16777216"_s;
+    QTest::newRow("back-reference to capture 15") << u"a\\15"_s;
     QTest::newRow("captures") << u"(a*)"_s.repeated(100) + u'b';
     QTest::newRow("a set with a bracket") << u"((([](]{99}){99}){99}){99}"_s;
     QTest::newRow("a set with an escaped bracket") << u"((([\\](]{99}){99}){99}){99}"_s;
@@ -151,6 +153,10 @@ void TestRegExp::patternsThatPeopleWriteAreNotRefused_data()
     QTest::newRow("every part of a date and time")
         << u"^(IMG|DSC|PXL)[_-](\\d{4})(\\d{2})(\\d{2})_(\\d{2})(\\d{2})(\\d{2})(.*)\\.(jpe?g|png|heic)$"_s
         << u"IMG_20240131_235959~2.jpeg"_s;
+    QTest::newRow("the highest back-reference")
+        << u"^(a)(a)(a)(a)(a)(a)(a)(a)(a)(a)(a)(a)(a)(a)\\14"_s << u"a"_s.repeated(15);
+    QTest::newRow("escaped digits of another script") << u"\\\u0661\u0662"_s << u"\u0661\u0662"_s;
+    QTest::newRow("as many lookaheads as may be") << u"^(?=a){13}a"_s << u"a"_s;
     QTest::newRow("several lookaheads") << u"^(?=.*\\d)(?=.*[a-z])(?=.*[A-Z]).{8,}$"_s << u"Photo 123"_s;
     QTest::newRow("a lookahead within a lookahead") << u"^(?=.*(?=.*c)).*"_s << u"abc"_s;
     QTest::newRow("a lookahead within a loop") << u"^(?:(?!--).)*"_s << u"no dashes"_s;
