@@ -153,6 +153,15 @@ class Window:
         """As the button in the title bar does."""
         run("wmctrl", "-i", "-c", self.number)
 
+    def close_until_gone(self):
+        """Wine's own windows miss the button while they are still being filled."""
+        def gone():
+            if not self.is_there():
+                return True
+            self.close()
+            return False
+        until(gone, f"the window {self.title!r} to close")
+
     def drag(self, start, target):
         steps = 12
         xdotool("mousemove", "--window", self.number, *start, "mousedown", "1")

@@ -96,8 +96,7 @@ class Dialogs(WindowsCase):
             dialog.click(place)
             explorer = Window("Orvanto", besides=there)
             self.screenshot("opened folder")
-            explorer.close()
-            explorer.until_closed()
+            explorer.close_until_gone()
         asked = re.findall(r'^SHELL_execute mask=.*? verb=L"(.*?)" file=L"(.*?)" parm=L"(.*?)"',
                            "\n".join(program.calls()), re.M)
         self.assertEqual(asked, [("open", "C:/Orvanto", ""),
