@@ -9,7 +9,7 @@ build_packages=(
 )
 run_packages=(fonts-dejavu-core xdg-utils)
 benchmark_packages=(gnuplot-nox mmv moreutils python3 rename util-linux)
-virtual_display_packages=(openbox xvfb)
+virtual_display_packages=(openbox xauth xvfb)
 test_packages=(
     at-spi2-core binutils clang-format-14 dbus dbus-bin dbus-daemon dosfstools e2fsprogs exfat-fuse exfatprogs
     fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mount ntfs-3g openbox
