@@ -15,6 +15,7 @@ class ProgressDialog;
 class QPushButton;
 class QSignalMapper;
 class QTreeView;
+class RenameRun;
 class Rule;
 class TaskbarList;
 struct RuleData;
@@ -78,12 +79,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    struct RunResult
-    {
-        int last = 0; ///< the loop's index at the end
-        int failed = 0;
-    };
-
     void createExplorer();
     void createRules();
     void createMappers();
@@ -110,9 +105,9 @@ private:
     void moveFile(int from, int to);
 
     [[nodiscard]] QString newName(const QString &name, int row) const;
-    [[nodiscard]] RunResult renameAll(ProgressDialog &dialog);
-    [[nodiscard]] bool renameRow(int row);
-    void showReport(const RunResult &result);
+    void renameAll(RenameRun &run, ProgressDialog &dialog);
+    void renameRow(RenameRun &run, int row);
+    void showReport(const RenameRun &run);
 
     std::unique_ptr<Ui::MainWindow> ui;
     std::unique_ptr<TaskbarList> taskbarList;

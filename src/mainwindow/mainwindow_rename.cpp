@@ -5,54 +5,16 @@
 
 #include "core/applog.h"
 #include "mainwindow/progressdialog.h"
-#include "platform/filerename.h"
 #include "rules/rulechain.h"
+#include "run/renamerun.h"
+#include "run/systemdisk.h"
 #include "ui_mainwindow.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct FilePath
-{
-    QString path;         ///< absolute
-    qsizetype nameAt = 0; ///< where the name begins, behind a separator
-    [[nodiscard]] QStringView folder() const { return QStringView(path).first(nameAt - 1); }
-    [[nodiscard]] QString name() const { return path.sliced(nameAt); }
-    [[nodiscard]] QString sibling(const QString &name) const
-    {
-        return QStringView(path).first(nameAt) % name;
-    }
-};
-
-/// Whether a path is absolute and has no part that QFileInfo would fold away.
-bool isPlain(QStringView path)
-{
-    for (qsizetype i = 1; i < path.size(); ++i) {
-        if (path[i - 1] == u'/' && (path[i] == u'/' || path[i] == u'.'))
-            return false;
-    }
-    return path.startsWith(u'/');
-}
-
-/// What QFileInfo makes of a path, at a tenth of the cost for the paths that a drop or a scan delivers:
-/// absolute ones without "//", "." or "..".
-FilePath splitPath(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(u'/');
-    if (slash > 0 && isPlain(path))
-        return {path, slash + 1};
-    const QFileInfo file(path);
-    const QString folder = file.absolutePath() + u'/';
-    return {folder + file.fileName(), folder.size()};
-}
-
-} // namespace
 
 QString MainWindow::newName(const QString &name, int row) const
 {
@@ -64,7 +26,7 @@ QString MainWindow::newName(const QString &name, int row) const
 
 void MainWindow::updateFileItem(int row)
 {
-    const FilePath file = splitPath(ui->listWidgetFiles->path(row));
+    const FilePath file = FilePath::of(ui->listWidgetFiles->path(row));
     QString text = ui->buttonPreview->isChecked() ? newName(file.name(), row) : file.name();
     if (ui->checkBoxShowFullPath->isChecked()) {
         // Deliberate: a folder on a network share is shown with one leading separator.
@@ -94,48 +56,44 @@ void MainWindow::on_buttonRename_clicked()
     dialog.total = ui->listWidgetFiles->count();
     dialog.show();
     ui->buttonPreview->setChecked(false);
-    const RunResult result = renameAll(dialog);
+    SystemDisk disk;
+    RenameRun run(disk);
+    renameAll(run, dialog);
     dialog.close();
     on_buttonPreview_clicked();
-    showReport(result);
+    showReport(run);
 }
 
-MainWindow::RunResult MainWindow::renameAll(ProgressDialog &dialog)
+void MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
 {
-    RunResult result;
-    while (result.last < ui->listWidgetFiles->count()) {
-        if (!renameRow(result.last))
-            ++result.failed;
-        dialog.setProgress(result.last);
-        // Deliberate: a cancel leaves the loop before the index goes on, so the report counts one file less.
-        if (dialog.isHidden())
+    while (run.handled() < ui->listWidgetFiles->count()) {
+        const int row = run.handled();
+        renameRow(run, row);
+        dialog.setProgress(row);
+        if (dialog.isHidden()) {
+            run.cancel();
             break;
+        }
         QCoreApplication::processEvents();
-        ++result.last;
     }
-    return result;
 }
 
-bool MainWindow::renameRow(int row)
+void MainWindow::renameRow(RenameRun &run, int row)
 {
-    const FilePath file = splitPath(ui->listWidgetFiles->path(row));
+    const FilePath file = FilePath::of(ui->listWidgetFiles->path(row));
     const QString name = file.name();
-    const QString newPath = file.sibling(newName(name, row));
-    // No check of our own: whatever the rules made of the name, the file system's answer alone counts. A name
-    // left unchanged is therefore a failure, deliberately.
-    if (renameFile(file.path, newPath)) {
-        ui->listWidgetFiles->setPath(row, newPath);
-        return true;
-    }
-    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
-    return false;
+    const Outcome outcome = run.next(file, newName(name, row));
+    if (outcome.isRenamed())
+        ui->listWidgetFiles->setPath(row, outcome.path);
+    else
+        AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
 }
 
-void MainWindow::showReport(const RunResult &result)
+void MainWindow::showReport(const RenameRun &run)
 {
     const QString report = tr("Total") + u' ' + QString::number(ui->listWidgetFiles->count()) + u'\n' +
-                           tr("Processed") + u' ' + QString::number(result.last - result.failed) + u'\n' +
-                           tr("Failed") + u' ' + QString::number(result.failed);
+                           tr("Processed") + u' ' + QString::number(run.processed()) + u'\n' + tr("Failed") +
+                           u' ' + QString::number(run.failed());
     QMessageBox box(this);
     box.setWindowTitle(tr("Report"));
     box.setStandardButtons(QMessageBox::Ok);

@@ -17,13 +17,27 @@ public:
     [[nodiscard]] bool isSequential() const override { return true; }
 };
 
+/// Whether the system can be told the path: it would read up to the first null character only, and write half
+/// a character as U+FFFD. Both are the name of another file.
+bool canBeWritten(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar::Null) && path.isValidUtf16();
+}
+
 } // namespace
 
-bool renameFile(const QString &from, const QString &to)
+RenameResult renameFile(const QString &from, const QString &to)
 {
-    if (const std::optional<bool> renamed = renameWithoutReplacing(from, to))
-        return *renamed;
+    if (!canBeWritten(from))
+        return RenameResult::SourceMissing;
+    if (!canBeWritten(to))
+        return RenameResult::BadName;
+    const std::optional<RenameResult> result = renameWithoutReplacing(from, to);
+    if (result)
+        return *result;
     // QFile knows what is left: a change of case alone where case does not matter, and file systems that
     // cannot refuse to replace.
-    return UncopiedFile(from).rename(to);
+    if (UncopiedFile(from).rename(to))
+        return RenameResult::Done;
+    return whyNotRenamed(from, to);
 }

@@ -125,9 +125,12 @@ private slots:
         QTest::addColumn<QString>("other");
         QTest::addColumn<int>("succeeds"); // where
         QTest::addColumn<int>("unknown");  // where the outcome was never seen
-        const auto row = [](const char *name, const QString &from, const QString &to, int succeeds,
-                            Obstacle obstacle = NoObstacle, const QString &other = {}, int unknown = none) {
-            QTest::newRow(name) << from << to << int{obstacle} << other << succeeds << unknown;
+        QTest::addColumn<RenameResult>("refusal");
+        auto refusal = RenameResult::TargetExists;
+        const auto row = [&refusal](const char *name, const QString &from, const QString &to, int succeeds,
+                                    Obstacle obstacle = NoObstacle, const QString &other = {},
+                                    int unknown = none) {
+            QTest::newRow(name) << from << to << int{obstacle} << other << succeeds << unknown << refusal;
         };
         row("a free name", u"a.txt"_s, u"b.txt"_s, all);
         row("its own name", u"a.txt"_s, u"a.txt"_s, none);
@@ -141,6 +144,7 @@ private slots:
         row("its own name composed", u"e\u0301.txt"_s, u"\u00e9.txt"_s, all & ~Casefold);
         row("a file's name decomposed", u"a.txt"_s, u"e\u0301.txt"_s, all & ~Casefold, File, u"\u00e9.txt"_s);
         row("sharp s as two letters", u"ß.txt"_s, u"SS.txt"_s, all & ~Casefold);
+        refusal = RenameResult::BadName;
         for (const QString &refused :
              {u"a:b"_s, u"a?"_s, u"a*"_s, u"<a>"_s, u"a|b"_s, u"a\"b"_s, u"a\\b"_s, u"a\nb"_s, u"a\x01"_s})
             row(qPrintable("a name with "_L1 + QString(refused).remove(u'a').toHtmlEscaped().trimmed()),
@@ -148,11 +152,14 @@ private slots:
         row("a blank at the end", u"a.txt"_s, u"b "_s, all & ~Ntfs, NoObstacle, {}, Vfat);
         row("a dot at the end", u"a.txt"_s, u"b."_s, all & ~Ntfs, NoObstacle, {}, Vfat);
         row("a device of Windows", u"a.txt"_s, u"CON"_s, all & ~Ntfs, NoObstacle, {}, Vfat);
+        refusal = RenameResult::TooLong;
         row("255 letters", u"a.txt"_s, u"x"_s.repeated(255), all);
         row("256 letters", u"a.txt"_s, u"x"_s.repeated(256), none);
         row("200 letters of two bytes", u"a.txt"_s, u"é"_s.repeated(200), Exfat | Vfat);
         row("beyond the first plane", u"a.txt"_s, u"😀.txt"_s, all, NoObstacle, {}, Vfat);
+        refusal = RenameResult::BadName;
         row("half a character", u"a.txt"_s, u"\xd83d.txt"_s, none);
+        refusal = RenameResult::Other;
         row("a folder that is not there", u"a.txt"_s, u"nowhere/a.txt"_s, none);
     }
     void renames()
@@ -163,6 +170,7 @@ private slots:
         QFETCH(QString, other);
         QFETCH(int, succeeds);
         QFETCH(int, unknown);
+        QFETCH(RenameResult, refusal);
         write(from, "content");
         if (obstacle == File)
             write(other, "in the way");
@@ -174,13 +182,14 @@ private slots:
         if (obstacle == DanglingLink && is(Exfat | Vfat))
             return; // no links, nothing in the way
         QVERIFY(before.contains(from));
-        const bool renamed = renameFile(path(from), path(to));
+        const RenameResult result = renameFile(path(from), path(to));
+        const bool renamed = result == RenameResult::Done;
         if (is(unknown)) {
             // Whatever the answer, and by whatever name, the file is there.
             QCOMPARE(contents().values(), before.values());
             return;
         }
-        QCOMPARE(renamed, is(succeeds));
+        QCOMPARE(result, is(succeeds) ? RenameResult::Done : refusal);
         Contents expected = before;
         if (renamed)
             expected.insert(to, expected.take(from));
@@ -268,7 +277,7 @@ private slots:
             QVERIFY2(is(Exfat | Vfat), "links are known here");
             return;
         }
-        QVERIFY(renameFile(path(u"link"_s), path(u"LINK"_s)));
+        QCOMPARE(renameFile(path(u"link"_s), path(u"LINK"_s)), RenameResult::Done);
         QCOMPARE(namesOnDisk(), (QStringList{u"LINK"_s, u"target"_s}));
         QVERIFY(QFileInfo(path(u"LINK"_s)).isSymLink());
     }
@@ -313,12 +322,12 @@ private slots:
         SystemFaults faults;
         faults.add({.call = SystemCall::Link, .part = "/a.txt"});
         const auto before = identityOf(path(u"a.txt"_s));
-        QVERIFY(renameFile(path(u"a.txt"_s), path(u"b.txt"_s)));
+        QCOMPARE(renameFile(path(u"a.txt"_s), path(u"b.txt"_s)), RenameResult::Done);
         QCOMPARE(faults.hits(), is(Ntfs | Exfat) ? 1 : 0);
         faults.clear();
         faults.add({.call = SystemCall::Rename, .part = "/b.txt"});
         const int soFar = faults.hits();
-        QVERIFY(renameFile(path(u"b.txt"_s), path(u"c.txt"_s)));
+        QCOMPARE(renameFile(path(u"b.txt"_s), path(u"c.txt"_s)), RenameResult::Done);
         QCOMPARE(faults.hits() - soFar, is(Exfat) ? 1 : 0);
         if (!is(Exfat))
             QCOMPARE(identityOf(path(u"c.txt"_s)).file, before.file);

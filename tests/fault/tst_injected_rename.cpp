@@ -236,7 +236,7 @@ private slots:
         const QString to = run->tree.path(u"b.txt"_s);
         const auto before = identityOf(from);
         faults->refuseMoving("/a.txt", EIO);
-        QVERIFY(!renameFile(from, to));
+        QCOMPARE(renameFile(from, to), RenameResult::Other);
         QCOMPARE(identityOf(from).file, before.file);
         QVERIFY(QFile::rename(from, to));
         QCOMPARE(run->contents(), (Contents{{u"b.txt"_s, "a.txt"}}));
@@ -247,7 +247,7 @@ private slots:
         const QString from = run->tree.addFile(u"a.txt"_s);
         const QString to = run->tree.addLink(u"b.txt"_s, run->tree.path(u"nowhere"_s));
         faults->forgetNoReplace(false, EPERM);
-        QVERIFY(!renameFile(from, to));
+        QCOMPARE(renameFile(from, to), RenameResult::TargetExists);
         QVERIFY(QFileInfo(to).isSymLink());
         QVERIFY(QFile::rename(from, to));
         QVERIFY(!QFileInfo(to).isSymLink());

@@ -9,11 +9,12 @@ import sources
 MAY_USE = {
     "platform": set(),
     "core": set(),
+    "run": {"platform"},
     "rules": {"core"},
     "update": {"core"},
     "dialogs": {"platform", "core", "update"},
-    "mainwindow": {"platform", "core", "rules", "update", "dialogs"},
-    "app": {"platform", "core", "rules", "update", "dialogs", "mainwindow"},
+    "mainwindow": {"platform", "run", "core", "rules", "update", "dialogs"},
+    "app": {"platform", "run", "core", "rules", "update", "dialogs", "mainwindow"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z]+)/', re.MULTILINE)
 

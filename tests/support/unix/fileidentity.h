@@ -9,14 +9,14 @@
 #include <unistd.h>
 
 /// Which file a path leads to, links not followed; all zero when there is none.
-struct FileIdentity
+struct SeenFile
 {
     quint64 volume = 0;
     quint64 file = 0;
     quint32 mode = 0;
 };
 
-inline FileIdentity identityOf(const QString &path)
+inline SeenFile identityOf(const QString &path)
 {
     struct stat result
     {

@@ -9,7 +9,7 @@
 #include <windows.h>
 
 /// Which file a path leads to, links not followed; all zero when there is none.
-struct FileIdentity
+struct SeenFile
 {
     quint64 volume = 0;
     quint64 file = 0;
@@ -21,7 +21,7 @@ inline QString extendedPath(const QString &path)
     return QLatin1String("\\\\?\\") + QDir::toNativeSeparators(QDir::current().absoluteFilePath(path));
 }
 
-inline FileIdentity identityOf(const QString &path)
+inline SeenFile identityOf(const QString &path)
 {
     const auto name = extendedPath(path).toStdWString();
     constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

@@ -5,6 +5,7 @@
 #include "unit/support/testfolder.h"
 
 #include "fileidentity.h"
+#include "withoutprivileges.h"
 
 #include <QFileInfo>
 #include <QTest>
@@ -29,6 +30,7 @@ private slots:
     void refusesBadTargets_data();
     void refusesBadTargets();
     void refusesAnEmptySource();
+    void saysThatTheFolderMayNotBeWritten();
     void changesOnlyTheCase();
     void caseChangeRefusesAnotherFile();
     void caseChangeRefusesASecondNameOfTheSameFile();
@@ -66,7 +68,7 @@ void TestFileRename::movesTheFileItself()
     QVERIFY(writeFile(from, "content"));
     QVERIFY(QFile::setPermissions(from, QFile::ReadOwner));
     const auto before = identityOf(from);
-    QVERIFY(renameFile(folder->path(from), folder->path(to)));
+    QCOMPARE(renameFile(folder->path(from), folder->path(to)), RenameResult::Done);
     QCOMPARE(identityOf(from).file, 0U);
     QCOMPARE(identityOf(to).file, before.file);
     QCOMPARE(identityOf(to).mode, before.mode);
@@ -102,7 +104,7 @@ void TestFileRename::refusesWhatExists()
     const QStringList before = entriesOf(folder->path());
     const auto targetBefore = identityOf(target);
 
-    QVERIFY(!renameFile(folder->path(u"source"_s), folder->path(target)));
+    QCOMPARE(renameFile(folder->path(u"source"_s), folder->path(target)), RenameResult::TargetExists);
     QCOMPARE(entriesOf(folder->path()), before);
     QCOMPARE(identityOf(target).file, targetBefore.file);
     QCOMPARE(readFile(u"source"_s), "source");
@@ -115,7 +117,7 @@ void TestFileRename::danglingLinkIsNotWrittenThrough()
     const TestFolder elsewhere;
     QVERIFY(writeFile(folder->path(u"source"_s), "source"));
     QVERIFY(QFile::link(elsewhere.path(u"victim"_s), folder->path(u"target"_s)));
-    QVERIFY(!renameFile(folder->path(u"source"_s), folder->path(u"target"_s)));
+    QCOMPARE(renameFile(folder->path(u"source"_s), folder->path(u"target"_s)), RenameResult::TargetExists);
     QVERIFY(entriesOf(elsewhere.path()).isEmpty());
     QVERIFY(QFileInfo(folder->path(u"target"_s)).isSymLink());
     QCOMPARE(readFile(folder->path(u"source"_s)), "source");
@@ -123,34 +125,39 @@ void TestFileRename::danglingLinkIsNotWrittenThrough()
 
 void TestFileRename::vanishedSourceMakesNothing()
 {
-    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path(u"b"_s)));
+    QCOMPARE(renameFile(folder->path(u"a"_s), folder->path(u"b"_s)), RenameResult::SourceMissing);
     QVERIFY(entriesOf(folder->path()).isEmpty());
     QVERIFY(writeFile(u"b"_s, "b"));
-    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path(u"b"_s)));
+    QCOMPARE(renameFile(folder->path(u"a"_s), folder->path(u"b"_s)), RenameResult::SourceMissing);
     QCOMPARE(readFile(u"b"_s), "b");
 }
 
 void TestFileRename::refusesBadTargets_data()
 {
     QTest::addColumn<QString>("target");
+    QTest::addColumn<RenameResult>("result");
 
-    QTest::newRow("folder that is not there") << u"missing/a"_s;
-    QTest::newRow("file as a folder") << u"other/a"_s;
-    QTest::newRow("too long") << QString(256, u'b');
-    QTest::newRow("too long in bytes") << QString(128, u'é');
-    QTest::newRow("this folder") << u"."_s;
-    QTest::newRow("the folder above") << u".."_s;
-    QTest::newRow("null character") << u"b"_s + QChar(0) + u'c';
+    QTest::newRow("folder that is not there") << u"missing/a"_s << RenameResult::Other;
+    QTest::newRow("file as a folder") << u"other/a"_s << RenameResult::Other;
+    QTest::newRow("too long") << QString(256, u'b') << RenameResult::TooLong;
+    QTest::newRow("too long in bytes") << QString(128, u'é') << RenameResult::TooLong;
+    QTest::newRow("this folder") << u"."_s << RenameResult::TargetExists;
+    QTest::newRow("the folder above") << u".."_s << RenameResult::TargetExists;
+    QTest::newRow("null character") << u"b"_s + QChar(0) + u'c' << RenameResult::BadName;
+    QTest::newRow("half a character") << u"b"_s + QChar(0xd83d) << RenameResult::BadName;
 }
 
 void TestFileRename::refusesBadTargets()
 {
     QFETCH(QString, target);
+    QFETCH(RenameResult, result);
     QVERIFY(writeFile(u"a"_s, "a"));
     QVERIFY(writeFile(u"other"_s, "other"));
     const MessageCatcher silence;
-    QVERIFY(!renameFile(folder->path(u"a"_s), folder->path() + u'/' + target));
-    QVERIFY(!renameFile(folder->path(u"a"_s), QString()));
+    QCOMPARE(renameFile(folder->path(u"a"_s), folder->path() + u'/' + target), result);
+    QCOMPARE(renameFile(folder->path(u"a"_s), QString()), RenameResult::BadName);
+    // What a name comes to is nothing for the log.
+    QCOMPARE(silence.messages(), QStringList());
     QCOMPARE(entriesOf(folder->path()), (QStringList{u"a"_s, u"other"_s}));
     QCOMPARE(readFile(u"a"_s), "a");
     QCOMPARE(readFile(u"other"_s), "other");
@@ -159,14 +166,31 @@ void TestFileRename::refusesBadTargets()
 void TestFileRename::refusesAnEmptySource()
 {
     const MessageCatcher silence;
-    QVERIFY(!renameFile(QString(), folder->path(u"b"_s)));
+    QCOMPARE(renameFile(QString(), folder->path(u"b"_s)), RenameResult::SourceMissing);
     QVERIFY(entriesOf(folder->path()).isEmpty());
+}
+
+void TestFileRename::saysThatTheFolderMayNotBeWritten()
+{
+    QVERIFY(writeFile(u"a"_s, "a"));
+    QVERIFY(writeFile(u"b"_s, "b"));
+    const auto readable = WithoutPrivileges::readable;
+    QVERIFY(QFile::setPermissions(folder->path(), readable));
+    {
+        const WithoutPrivileges drop;
+        QCOMPARE(renameFile(folder->path(u"a"_s), folder->path(u"c"_s)), RenameResult::NotPermitted);
+        // What is there counts first.
+        QCOMPARE(renameFile(folder->path(u"a"_s), folder->path(u"b"_s)), RenameResult::TargetExists);
+        QCOMPARE(renameFile(folder->path(u"c"_s), folder->path(u"d"_s)), RenameResult::SourceMissing);
+    }
+    QVERIFY(QFile::setPermissions(folder->path(), readable | QFile::WriteOwner));
+    QCOMPARE(entriesOf(folder->path()), (QStringList{u"a"_s, u"b"_s}));
 }
 
 void TestFileRename::changesOnlyTheCase()
 {
     QVERIFY(writeFile(u"photo.jpg"_s, "x"));
-    QVERIFY(renameFile(folder->path(u"photo.jpg"_s), folder->path(u"Photo.JPG"_s)));
+    QCOMPARE(renameFile(folder->path(u"photo.jpg"_s), folder->path(u"Photo.JPG"_s)), RenameResult::Done);
     QCOMPARE(entriesOf(folder->path()), QStringList(u"Photo.JPG"_s));
 }
 
@@ -174,7 +198,7 @@ void TestFileRename::caseChangeRefusesAnotherFile()
 {
     QVERIFY(writeFile(u"photo"_s, "small"));
     QVERIFY(writeFile(u"PHOTO"_s, "large"));
-    QVERIFY(!renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)));
+    QCOMPARE(renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)), RenameResult::TargetExists);
     QCOMPARE(readFile(u"photo"_s), "small");
     QCOMPARE(readFile(u"PHOTO"_s), "large");
 }
@@ -185,7 +209,7 @@ void TestFileRename::caseChangeRefusesASecondNameOfTheSameFile()
 {
     QVERIFY(writeFile(u"photo"_s, "x"));
     QVERIFY(makeHardLink(u"photo"_s, u"PHOTO"_s));
-    QVERIFY(!renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)));
+    QCOMPARE(renameFile(folder->path(u"photo"_s), folder->path(u"PHOTO"_s)), RenameResult::TargetExists);
     QCOMPARE(entriesOf(folder->path()).size(), 2);
     QVERIFY(QFileInfo::exists(u"photo"_s));
     QVERIFY(QFileInfo::exists(u"PHOTO"_s));
@@ -195,7 +219,7 @@ void TestFileRename::linkIsMovedNotItsTarget()
 {
     QVERIFY(writeFile(u"target"_s, "x"));
     QVERIFY(QFile::link(u"target"_s, u"link"_s));
-    QVERIFY(renameFile(folder->path(u"link"_s), folder->path(u"moved"_s)));
+    QCOMPARE(renameFile(folder->path(u"link"_s), folder->path(u"moved"_s)), RenameResult::Done);
     QCOMPARE(entriesOf(folder->path()), (QStringList{u"moved"_s, u"target"_s}));
     QVERIFY(QFileInfo(u"moved"_s).isSymLink());
     QCOMPARE(readFile(u"moved"_s), "x");
@@ -204,7 +228,7 @@ void TestFileRename::linkIsMovedNotItsTarget()
 void TestFileRename::folderIsMoved()
 {
     QVERIFY(QDir().mkpath(u"a/b"_s));
-    QVERIFY(renameFile(folder->path(u"a"_s), folder->path(u"c"_s)));
+    QCOMPARE(renameFile(folder->path(u"a"_s), folder->path(u"c"_s)), RenameResult::Done);
     QCOMPARE(entriesOf(folder->path()), QStringList(u"c"_s));
     QCOMPARE(entriesOf(folder->path(u"c"_s)), QStringList(u"b"_s));
 }
@@ -212,7 +236,7 @@ void TestFileRename::folderIsMoved()
 void TestFileRename::pipeIsMovedWithoutBeingOpened()
 {
     QVERIFY(makePipe(u"pipe"_s));
-    QVERIFY(renameFile(folder->path(u"pipe"_s), folder->path(u"moved"_s)));
+    QCOMPARE(renameFile(folder->path(u"pipe"_s), folder->path(u"moved"_s)), RenameResult::Done);
     QVERIFY(isPipe(u"moved"_s));
 }
 
@@ -224,7 +248,7 @@ void TestFileRename::neverCopiesAcrossFileSystems()
              "needs a temporary folder on another file system than /dev/shm");
     QVERIFY(writeFile(u"a"_s, "content"));
     const auto before = identityOf(u"a"_s);
-    QVERIFY(!renameFile(folder->path(u"a"_s), memory.filePath(u"a"_s)));
+    QCOMPARE(renameFile(folder->path(u"a"_s), memory.filePath(u"a"_s)), RenameResult::Other);
     QVERIFY(entriesOf(memory.path()).isEmpty());
     QCOMPARE(readFile(u"a"_s), "content");
     QCOMPARE(identityOf(u"a"_s).file, before.file);

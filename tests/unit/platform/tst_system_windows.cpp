@@ -141,7 +141,7 @@ private slots:
         QFETCH(QString, device);
         const TestFolder folder;
         QVERIFY(writeFile(u"a"_s, "a"));
-        QVERIFY(!renameFile(folder.path(u"a"_s), folder.path(device)));
+        QCOMPARE(renameFile(folder.path(u"a"_s), folder.path(device)), RenameResult::BadName);
         QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
         QCOMPARE(readFile(u"a"_s), "a");
     }
@@ -159,7 +159,7 @@ private slots:
         QFETCH(QString, stream);
         const TestFolder folder;
         QVERIFY(writeFile(u"a"_s, "a"));
-        QVERIFY(!renameFile(folder.path(u"a"_s), folder.path() + u'/' + stream));
+        QCOMPARE(renameFile(folder.path(u"a"_s), folder.path() + u'/' + stream), RenameResult::BadName);
         QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
         QCOMPARE(readFile(u"a"_s), "a");
     }
@@ -168,11 +168,11 @@ private slots:
     {
         const TestFolder folder;
         QVERIFY(writeFile(u"a"_s, "a"));
-        QVERIFY(renameFile(folder.path(u"a"_s), folder.path(u"b. ."_s)));
+        QCOMPARE(renameFile(folder.path(u"a"_s), folder.path(u"b. ."_s)), RenameResult::Done);
         QCOMPARE(entriesOf(folder.path()), QStringList(u"b"_s));
         // The name without them may be taken.
         QVERIFY(writeFile(u"c"_s, "c"));
-        QVERIFY(!renameFile(folder.path(u"c"_s), folder.path(u"b."_s)));
+        QCOMPARE(renameFile(folder.path(u"c"_s), folder.path(u"b."_s)), RenameResult::TargetExists);
         QCOMPARE(readFile(u"b"_s), "a");
         QCOMPARE(readFile(u"c"_s), "c");
     }
@@ -184,7 +184,7 @@ private slots:
         QVERIFY(QDir().mkpath(QFileInfo(deep).path()));
         QVERIFY(writeFile(deep, "a"));
         QVERIFY(deep.size() > MAX_PATH);
-        QVERIFY(renameFile(deep, deep + u'Ж'));
+        QCOMPARE(renameFile(deep, deep + u'Ж'), RenameResult::Done);
         QVERIFY(!QFileInfo::exists(deep));
         QCOMPARE(readFile(deep + u'Ж'), "a");
     }

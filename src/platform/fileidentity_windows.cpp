@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "platform/extendedpath_windows.h"
+#include "platform/fileidentity.h"
+
+#include <windows.h>
+
+namespace {
+
+/// Windows counts tenths of microseconds since 1601.
+qint64 nanoseconds(const FILETIME &time)
+{
+    constexpr qint64 until1970 = 116'444'736'000'000'000;
+    const qint64 ticks = (qint64{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+    return (ticks - until1970) * 100;
+}
+
+FileIdentity::Kind kindOf(DWORD attributes)
+{
+    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT)
+        return FileIdentity::Kind::Link;
+    return attributes & FILE_ATTRIBUTE_DIRECTORY ? FileIdentity::Kind::Folder : FileIdentity::Kind::File;
+}
+
+} // namespace
+
+std::optional<FileIdentity> fileIdentity(const QString &path)
+{
+    const QString full = extendedPath(path);
+    const HANDLE file =
+        CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_READ_ATTRIBUTES,
+                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                    FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    BY_HANDLE_FILE_INFORMATION there = {};
+    const BOOL known = GetFileInformationByHandle(file, &there);
+    CloseHandle(file);
+    if (!known)
+        return std::nullopt;
+    return FileIdentity{.volume = there.dwVolumeSerialNumber,
+                        .number = (quint64{there.nFileIndexHigh} << 32) | there.nFileIndexLow,
+                        .born = nanoseconds(there.ftCreationTime),
+                        .size = (qint64{there.nFileSizeHigh} << 32) | there.nFileSizeLow,
+                        .modified = nanoseconds(there.ftLastWriteTime),
+                        .kind = kindOf(there.dwFileAttributes)};
+}

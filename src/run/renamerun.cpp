@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "run/renamerun.h"
+
+#include "run/newname.h"
+
+namespace {
+
+Fate fateOf(RenameResult result)
+{
+    switch (result) {
+    case RenameResult::Done:
+        return Fate::Renamed;
+    case RenameResult::TargetExists:
+        return Fate::Taken;
+    case RenameResult::SourceMissing:
+        return Fate::Missing;
+    case RenameResult::NotPermitted:
+        return Fate::ReadOnly;
+    case RenameResult::BadName:
+        return Fate::NotAllowed;
+    case RenameResult::TooLong:
+        return Fate::TooLong;
+    case RenameResult::Other:
+        return Fate::Unknown;
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+RenameRun::RenameRun(Disk &on)
+    : disk(on)
+{
+}
+
+Outcome RenameRun::next(const FilePath &file, const QString &newName)
+{
+    Outcome outcome;
+    outcome.path = file.sibling(newName);
+    const RenameResult result = disk.rename(file, outcome.path);
+    ++handledRows;
+    if (result != RenameResult::Done)
+        ++failedRows;
+    const NewName parts(newName);
+    outcome.reason = result == RenameResult::Done ? Fate::Renamed : whyNot(file, newName, result);
+    outcome.fate = parts.leadsElsewhere && outcome.reason != Fate::NoText ? Fate::Separator : outcome.reason;
+    return outcome;
+}
+
+Fate RenameRun::whyNot(const FilePath &file, const QString &newName, RenameResult result) const
+{
+    const NewName parts(newName);
+    if (parts.refusal)
+        return *parts.refusal;
+    if (result == RenameResult::TargetExists && newName == file.name())
+        return Fate::Unchanged;
+    if (result == RenameResult::Other && parts.leadsElsewhere)
+        return whyNotThere(file, file.sibling(newName.first(parts.lastPartAt)));
+    return fateOf(result);
+}
+
+Fate RenameRun::whyNotThere(const FilePath &file, const QString &folder) const
+{
+    // With a dot behind it a link to a folder is followed.
+    const auto target = disk.identity(folder + u'.');
+    if (!target || target->kind == FileIdentity::Kind::File)
+        return Fate::NoFolder;
+    const auto source = disk.identity(file.path);
+    return source && source->volume != target->volume ? Fate::NotAllowed : Fate::Unknown;
+}

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "run/systemdisk.h"
+
+RenameResult SystemDisk::rename(const FilePath &from, const QString &to)
+{
+    return renameFile(from.path, to);
+}
+
+std::optional<FileIdentity> SystemDisk::identity(const QString &path) const
+{
+    return fileIdentity(path);
+}

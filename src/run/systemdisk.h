@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "run/disk.h"
+
+/// The disk that is there.
+class SystemDisk final : public Disk
+{
+public:
+    [[nodiscard]] RenameResult rename(const FilePath &from, const QString &to) override;
+    [[nodiscard]] std::optional<FileIdentity> identity(const QString &path) const override;
+};
