@@ -6,6 +6,10 @@
 #include <QApplication>
 #include <QPalette>
 #include <QTest>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +21,45 @@ private slots:
     void styleSheetIsOneExactString();
     void paletteHasItsColors_data();
     void paletteHasItsColors();
-    void otherColorsStayAsTheyWere();
+    void otherColorsAreThoseOfALightDesktop();
+    void desktopHasNoPartInTheColors();
+    void textsStandOut_data();
+    void textsStandOut();
 };
+
+namespace {
+
+constexpr QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+
+/// What a desktop can put in the way: a palette for everything, one for a class of widgets, one for tool
+/// tips.
+void setDesktop(const QColor &background, const QColor &text)
+{
+    QPalette palette;
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        palette.setColor(QPalette::ColorRole(role), background);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, text);
+    QApplication::setPalette(palette);
+    QApplication::setPalette(palette, "QMenu");
+    QToolTip::setPalette(palette);
+}
+
+/// Contrast of two opaque colours by WCAG 2: from 1 to 21.
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+} // namespace
 
 void TestLook::styleSheetIsOneExactString()
 {
@@ -83,15 +124,73 @@ void TestLook::paletteHasItsColors()
     QCOMPARE(QApplication::palette().brush(group, role).style(), Qt::SolidPattern);
 }
 
-void TestLook::otherColorsStayAsTheyWere()
+void TestLook::otherColorsAreThoseOfALightDesktop()
 {
-    QApplication::setPalette(QPalette(Qt::red));
-    const QPalette before = QApplication::palette();
+    setDesktop(Qt::black, Qt::white);
     applyLook();
-    QCOMPARE(QApplication::palette().color(QPalette::Inactive, QPalette::Link),
-             before.color(QPalette::Inactive, QPalette::Link));
-    QCOMPARE(QApplication::palette().color(QPalette::Disabled, QPalette::Window),
-             before.color(QPalette::Disabled, QPalette::Window));
+    const QPalette palette = QApplication::palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        QCOMPARE(palette.color(group, QPalette::WindowText), QColor(Qt::black));
+        QCOMPARE(palette.color(group, QPalette::Text), QColor(Qt::black));
+        QCOMPARE(palette.color(group, QPalette::ButtonText), QColor(Qt::black));
+        QCOMPARE(palette.color(group, QPalette::Base), QColor(Qt::white));
+    }
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::Window), QColor(u"#efefef"_s));
+    QCOMPARE(palette.color(QPalette::Disabled, QPalette::AlternateBase), QColor(u"#f7f7f7"_s));
+}
+
+void TestLook::desktopHasNoPartInTheColors()
+{
+    setDesktop(Qt::white, Qt::black);
+    applyLook();
+    const QPalette onLight = QApplication::palette();
+    setDesktop(Qt::black, Qt::white);
+    applyLook();
+    for (const QPalette &palette :
+         {QApplication::palette(), QApplication::palette("QMenu"), QToolTip::palette()}) {
+        for (int number = 0; number < QPalette::NColorRoles; ++number) {
+            const auto role = QPalette::ColorRole(number);
+            if (role == QPalette::NoRole)
+                continue;
+            for (const QPalette::ColorGroup group : groups) {
+                QCOMPARE(palette.brush(group, role), onLight.brush(group, role));
+                // What an application has not set follows the desktop, at once and later.
+                QVERIFY2(palette.isBrushSet(group, role), qPrintable(QDebug::toString(role)));
+            }
+        }
+    }
+}
+
+void TestLook::textsStandOut_data()
+{
+    QTest::addColumn<QPalette::ColorRole>("text");
+    QTest::addColumn<QPalette::ColorRole>("background");
+    QTest::newRow("window") << QPalette::WindowText << QPalette::Window;
+    QTest::newRow("view") << QPalette::Text << QPalette::Base;
+    QTest::newRow("view, every other row") << QPalette::Text << QPalette::AlternateBase;
+    QTest::newRow("button") << QPalette::ButtonText << QPalette::Button;
+    QTest::newRow("tool tip") << QPalette::ToolTipText << QPalette::ToolTipBase;
+    QTest::newRow("placeholder") << QPalette::PlaceholderText << QPalette::Base;
+    QTest::newRow("link in a view") << QPalette::Link << QPalette::Base;
+    QTest::newRow("link in a window") << QPalette::Link << QPalette::Window;
+    QTest::newRow("visited link in a view") << QPalette::LinkVisited << QPalette::Base;
+    QTest::newRow("visited link in a window") << QPalette::LinkVisited << QPalette::Window;
+}
+
+void TestLook::textsStandOut()
+{
+    QFETCH(QPalette::ColorRole, text);
+    QFETCH(QPalette::ColorRole, background);
+    applyLook();
+    const QPalette palette = QApplication::palette();
+    for (const QPalette::ColorGroup group : groups) {
+        // Deliberate: the green of a link in an active window stays a little below.
+        if (text == QPalette::Link && background == QPalette::Window && group == QPalette::Active)
+            continue;
+        QCOMPARE(palette.color(group, text).alpha(), 255);
+        const double found = contrast(palette.color(group, text), palette.color(group, background));
+        QVERIFY2(found >= 4.5, qPrintable(u"%1 : 1 in group %2"_s.arg(found).arg(int{group})));
+    }
 }
 
 QTEST_MAIN(TestLook)
