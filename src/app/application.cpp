@@ -7,6 +7,7 @@
 #include "app/look.h"
 #include "app/splash.h"
 #include "core/applog.h"
+#include "core/datapaths.h"
 #include "core/localizer.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
@@ -16,7 +17,6 @@
 #include "platform/termination.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QIcon>
 #include <QLocale>
 #include <QScreen>
@@ -70,7 +70,7 @@ void Application::init()
     setValidationPatterns();
     setupDataDirectory();
     SettingsStore *settings = SettingsStore::instance();
-    settings->setFilePath(QDir::current().path() + "/config/global.xml"_L1);
+    settings->setFilePath(dataDirectory() + "/config/global.xml"_L1);
     settings->load();
     AppLog::instance()->setSaveToFile(settings->value(SettingKey::LogSave, false).toBool());
     installLogMessageHandler();

@@ -3,6 +3,7 @@
 
 #include "core/applog.h"
 
+#include "core/datapaths.h"
 #include "core/settingsstore.h"
 
 #include <QCoreApplication>
@@ -84,7 +85,7 @@ void AppLog::append(QString text)
 
 void AppLog::openFile()
 {
-    const QString folder = QDir::current().path() + "/logs/"_L1;
+    const QString folder = dataDirectory() + "/logs/"_L1;
     if (!QDir(folder).exists())
         QDir().mkdir(folder);
     file.setFileName(folder + QDate::currentDate().toString(u"yyyy-MM-dd"_s) + ".txt"_L1);

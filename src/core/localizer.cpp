@@ -4,9 +4,12 @@
 #include "core/localizer.h"
 
 #include "core/settingsstore.h"
+#include "core/translationfile.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTreeWidget>
 
@@ -17,6 +20,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Localizer *theLocalizer = nullptr;
+
+constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 
 enum Column { CodeColumn, LanguageColumn, CountryColumn };
 
@@ -74,9 +79,19 @@ void Localizer::setLanguage(const QString &code)
     if (code == "en_EN"_L1)
         return;
     const LanguageEntry *entry = find(code);
-    // Without delimiters and suffix: left alone, the translator takes files of longer or shorter names too.
-    if (entry && translator.load(u"%1/%2"_s.arg(localeDirectory, entry->fileName), {}, u""_s, u""_s))
+    if (entry && load(u"%1/%2"_s.arg(localeDirectory, entry->fileName)))
         QCoreApplication::installTranslator(&translator);
+}
+
+bool Localizer::load(const QString &path)
+{
+    QFile file(path);
+    // Opening a pipe in the file's place would wait for its other end.
+    if (!QFileInfo(file).isFile() || file.size() > maxFileSize || !file.open(QIODevice::ReadOnly))
+        return false;
+    translation = installableTranslation(file.readAll());
+    return translator.load(reinterpret_cast<const uchar *>(translation.constData()),
+                           static_cast<int>(translation.size()));
 }
 
 LanguageEntry *Localizer::find(const QString &code)

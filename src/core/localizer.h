@@ -45,8 +45,11 @@ public:
 
 private:
     void addDiscovered(const QString &fileName);
+    bool load(const QString &path);
 
     QList<LanguageEntry> languages;
+    // The translator reads from it for as long as it lives.
+    QByteArray translation;
     QTranslator translator;
     QString localeDirectory;
 };

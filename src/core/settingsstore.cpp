@@ -3,6 +3,8 @@
 
 #include "core/settingsstore.h"
 
+#include "core/datapaths.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
@@ -28,7 +30,7 @@ SettingsStore *theStore = nullptr;
 
 void ensureConfigFolder()
 {
-    const QDir folder;
+    const QDir folder(dataDirectory());
     if (!folder.exists(u"config"_s))
         folder.mkpath(u"config"_s);
 }

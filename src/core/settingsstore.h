@@ -33,8 +33,7 @@ enum class SettingKey : int {
 class SettingsStore
 {
 public:
-    /// The single store, made on the first call. Making it creates the folder "config" in the current
-    /// directory.
+    /// The single store, made on the first call. Making it creates the folder "config" in the data directory.
     static SettingsStore *instance();
     /// Deletes the single store, if there is one. What was not saved is lost.
     static void destroy();
@@ -43,7 +42,7 @@ public:
     virtual ~SettingsStore();
     Q_DISABLE_COPY_MOVE(SettingsStore)
 
-    /// Also creates the folder "config" in the current directory.
+    /// Also creates the folder "config" in the data directory.
     void setFilePath(const QString &path);
 
     /// Takes over the first top-level element "Settings" of the file. A file that is missing, unreadable, not

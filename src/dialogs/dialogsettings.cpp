@@ -3,6 +3,7 @@
 
 #include "dialogs/dialogsettings.h"
 
+#include "core/datapaths.h"
 #include "core/localizer.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
@@ -37,7 +38,7 @@ QString infoTarget(int id)
     case ApplicationFolder:
         return QCoreApplication::applicationDirPath();
     case DataFolder:
-        return QDir::current().path();
+        return dataDirectory();
     default:
         return {};
     }

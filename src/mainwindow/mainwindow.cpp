@@ -4,6 +4,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
+#include "core/datapaths.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
 #include "dialogs/dialogsettings.h"
@@ -292,7 +293,7 @@ void MainWindow::editSettings()
 
 void MainWindow::openLogFolder()
 {
-    const QString path = QDir::current().path() + "/logs/"_L1;
+    const QString path = dataDirectory() + "/logs/"_L1;
     QDir().mkdir(path);
     openWithShell(QDir(path).canonicalPath());
 }

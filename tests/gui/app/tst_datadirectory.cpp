@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/datadirectory.h"
+#include "core/datapaths.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -38,6 +39,7 @@ private slots:
     void bothMarkersArePortable();
     void portableModeLeavesNoProbeBehind();
     void unwritableProgramFolderThrowsAndMakesNothing();
+    void folderThatCannotBeMadeKeepsItsPath();
 
 private:
     void checkPortable();
@@ -58,6 +60,7 @@ void TestDataDirectory::init()
 
 void TestDataDirectory::cleanup()
 {
+    useDataDirectory({});
     QDir::setCurrent(before);
     QFile::remove(programFolder + "/portable"_L1);
     QFile::remove(programFolder + "/portable.txt"_L1);
@@ -125,6 +128,14 @@ void TestDataDirectory::unwritableProgramFolderThrowsAndMakesNothing()
     QCOMPARE(thrown, u"You must have write permission to the application directory for portable use."_s);
     QCOMPARE(QDir::currentPath(), before);
     QVERIFY(!QFile::exists(home->filePath(u"data"_s)));
+}
+
+void TestDataDirectory::folderThatCannotBeMadeKeepsItsPath()
+{
+    QVERIFY(createFile(home->filePath(u"data"_s)));
+    QVERIFY(setupDataDirectory());
+    QCOMPARE(QDir::currentPath(), before);
+    QCOMPARE(dataDirectory(), home->filePath(u"data/Kavrondel/Orvanto"_s));
 }
 
 QTEST_GUILESS_MAIN(TestDataDirectory)

@@ -3,13 +3,21 @@
 
 #include "localefolder.h"
 
+#include "fileidentity.h"
+
 #include <QApplication>
+#include <QDataStream>
 #include <QLocale>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QByteArray sampleContent()
+{
+    return readFile(u":/languages/sample-de_DE.qm"_s);
+}
 
 class LanguageWatcher final : public QWidget
 {
@@ -51,6 +59,10 @@ private slots:
     void switchingTellsTheWidgets();
     void badFileFallsBackToEnglish_data();
     void badFileFallsBackToEnglish();
+    void damagedFileHarmsNothing_data();
+    void damagedFileHarmsNothing();
+    void fileThatDependsOnItselfIsItsOwnEnd();
+    void pipeInThePlaceOfAFileIsNotOpened();
     void vanishedFileIsNotReplacedByANeighbour();
     void thereIsOneLocalizer();
     void destroyingRemovesTheTranslation();
@@ -280,9 +292,7 @@ void TestLocalizer::switchingTellsTheWidgets()
 void TestLocalizer::badFileFallsBackToEnglish_data()
 {
     QTest::addColumn<QByteArray>("content");
-    QFile sample(u":/languages/sample-de_DE.qm"_s);
-    QVERIFY(sample.open(QIODevice::ReadOnly));
-    const QByteArray good = sample.readAll();
+    const QByteArray good = sampleContent();
 
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("text") << QByteArray("no translation at all");
@@ -307,6 +317,62 @@ void TestLocalizer::badFileFallsBackToEnglish()
         QCOMPARE(word(), u"Replace"_s);
         QCOMPARE(savedLanguage(), code);
     }
+}
+
+void TestLocalizer::damagedFileHarmsNothing_data()
+{
+    QTest::addColumn<int>("value");
+
+    for (const int value : {0x00, 0x01, 0x03, 0x06, 0x7f, 0x80, 0xff})
+        QTest::addRow("0x%02x", static_cast<unsigned>(value)) << value;
+}
+
+// QTranslator trusts the file: with most of these a translated text would crash the program.
+void TestLocalizer::damagedFileHarmsNothing()
+{
+    QFETCH(int, value);
+    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    Localizer localizer;
+    localizer.discover();
+    const QByteArray good = sampleContent();
+    for (qsizetype i = 0; i < good.size(); ++i) {
+        QByteArray damaged = good;
+        damaged[i] = static_cast<char>(value);
+        QVERIFY(writeFile(LocaleFolder::path(u"app-de_DE.qm"_s), damaged));
+        localizer.setLanguage(u"de_DE"_s);
+        const QString translated = word();
+        QVERIFY(!translated.isEmpty());
+        static_cast<void>(QCoreApplication::translate("Rules", "%n files", nullptr, value));
+    }
+}
+
+void TestLocalizer::fileThatDependsOnItselfIsItsOwnEnd()
+{
+    QVERIFY(QDir().mkdir(LocaleFolder::path()));
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QByteArray dependency;
+    QDataStream stream(&dependency, QIODevice::WriteOnly);
+    stream << path;
+    QByteArray section("\x96\0\0\0", 4);
+    section += static_cast<char>(dependency.size());
+    QVERIFY(writeFile(path, sampleContent() + section + dependency));
+    Localizer localizer;
+    localizer.discover();
+    localizer.setLanguage(u"de_DE"_s);
+    QCOMPARE(word(), u"Ersetzen"_s);
+}
+
+void TestLocalizer::pipeInThePlaceOfAFileIsNotOpened()
+{
+    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    Localizer localizer;
+    localizer.discover();
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QVERIFY(QFile::remove(path));
+    // Where there are no pipes the file is merely gone.
+    static_cast<void>(makePipe(path));
+    localizer.setLanguage(u"de_DE"_s);
+    QCOMPARE(word(), u"Replace"_s);
 }
 
 // QTranslator looks for files of shorter names by itself: "app-de.qm", "app-de", and so on up the path.

@@ -126,6 +126,13 @@ void TestSystem::userDataFolderIsWhereTheUserSays()
     QCOMPARE(userDataFolder(), folder.path(u"my data"_s));
     data.set(folder.path(u"my data//"_s));
     QCOMPARE(userDataFolder(), folder.path(u"my data"_s));
+    // A relative path names a different folder wherever the program is started from, and counts as none.
+    const Variable home("HOME");
+    home.set(folder.path());
+    data.set(u"./my data"_s);
+    QCOMPARE(userDataFolder(), folder.path(u".local/share"_s));
+    home.set(u"relative"_s);
+    QCOMPARE(userDataFolder(), QString());
     QVERIFY(entriesOf(folder.path()).isEmpty());
 }
 
