@@ -331,14 +331,15 @@ void TestLocalizer::damagedFileHarmsNothing_data()
 void TestLocalizer::damagedFileHarmsNothing()
 {
     QFETCH(int, value);
-    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    const QByteArray good = sampleContent();
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QVERIFY(QDir().mkdir(LocaleFolder::path()) && writeFile(path, good));
     Localizer localizer;
     localizer.discover();
-    const QByteArray good = sampleContent();
     for (qsizetype i = 0; i < good.size(); ++i) {
         QByteArray damaged = good;
         damaged[i] = static_cast<char>(value);
-        QVERIFY(writeFile(LocaleFolder::path(u"app-de_DE.qm"_s), damaged));
+        QVERIFY(writeFile(path, damaged));
         localizer.setLanguage(u"de_DE"_s);
         const QString translated = word();
         QVERIFY(!translated.isEmpty());
@@ -364,10 +365,10 @@ void TestLocalizer::fileThatDependsOnItselfIsItsOwnEnd()
 
 void TestLocalizer::pipeInThePlaceOfAFileIsNotOpened()
 {
-    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QVERIFY(QDir().mkdir(LocaleFolder::path()) && writeFile(path, sampleContent()));
     Localizer localizer;
     localizer.discover();
-    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
     QVERIFY(QFile::remove(path));
     // Where there are no pipes the file is merely gone.
     static_cast<void>(makePipe(path));
