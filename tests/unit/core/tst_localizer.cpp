@@ -50,6 +50,7 @@ private slots:
     void entriesAreFoundByTheirExactCode();
     void otherFilesAreNoLanguages();
     void savedLanguageIsInstalledAtDiscovery();
+    void savedLanguageCanBeIgnoredForOnce();
     void savedEnglishInstallsNothing_data();
     void savedEnglishInstallsNothing();
     void savedLanguageWhoseFileIsGoneIsKept();
@@ -190,6 +191,18 @@ void TestLocalizer::savedLanguageIsInstalledAtDiscovery()
     localizer.discover();
     QCOMPARE(word(), u"Remplacer"_s);
     QCOMPARE(savedLanguage(), u"fr_FR"_s);
+}
+
+void TestLocalizer::savedLanguageCanBeIgnoredForOnce()
+{
+    QVERIFY(LocaleFolder::offer(u"x-de_DE.qm"_s));
+    saveLanguage(u"de_DE"_s);
+    Localizer localizer;
+    localizer.discover(Localizer::Saved::Ignore);
+    QCOMPARE(word(), u"Replace"_s);
+    QCOMPARE(savedLanguage(), u"de_DE"_s);
+    localizer.setLanguage(u"de_DE"_s);
+    QCOMPARE(word(), u"Ersetzen"_s);
 }
 
 void TestLocalizer::savedEnglishInstallsNothing_data()
