@@ -76,8 +76,8 @@ void Application::init()
     installLogMessageHandler();
     logStart();
     setWidgetStyle();
-    Localizer::instance()->discover();
-    qDebug("languages loaded");
+    onTerminationRequest(this, [this] { terminate(); });
+    loadLanguages();
     addLibraryPath(applicationDirPath() + "/plugins"_L1);
     applyLook();
     createMainWindow();
@@ -87,6 +87,7 @@ void Application::init()
     if (!ended)
         presentMainWindow();
     initialized = true;
+    startMarker->remove();
 }
 
 int Application::run()
@@ -113,6 +114,19 @@ void Application::logStart() const
              << "mode";
 }
 
+void Application::loadLanguages()
+{
+    startMarker.emplace(dataDirectory() + "/config/starting"_L1);
+    // Should it be the translation that crashes the program, nobody could choose another in a window that
+    // never comes.
+    const bool inEnglish = startMarker->lastStartCrashed();
+    if (inEnglish)
+        AppLog::instance()->append(
+            u"The last start crashed before the window was shown: starting in English"_s);
+    Localizer::instance()->discover(inEnglish ? Localizer::Saved::Ignore : Localizer::Saved::Install);
+    qDebug("languages loaded");
+}
+
 void Application::createMainWindow()
 {
     const SettingsStore *settings = SettingsStore::instance();
@@ -128,12 +142,11 @@ void Application::createMainWindow()
         ended = true;
         exit(0);
     };
-    onTerminationRequest(this, [this] { terminate(); });
 }
 
 void Application::terminate()
 {
-    // During the first start there is nothing to close: the dialog ends with its event loop.
+    // During the start there is nothing to close: the first-start dialog ends with its event loop.
     ended = true;
     if (!initialized || mainWindow->closeQuietly())
         exit(0);
@@ -142,9 +155,11 @@ void Application::terminate()
 void Application::welcome()
 {
     SettingsStore *settings = SettingsStore::instance();
-    if (!settings->value(SettingKey::MiscIsFirstStart, true).toBool())
+    if (ended || !settings->value(SettingKey::MiscIsFirstStart, true).toBool())
         return;
-    settings->setValue(SettingKey::MiscLanguage, QLocale::system().name());
+    // The dialog installs it.
+    if (!startMarker->lastStartCrashed())
+        settings->setValue(SettingKey::MiscLanguage, QLocale::system().name());
     if (screens().size() == 1)
         mainWindow->move(primaryScreen()->geometry().center() - mainWindow->rect().center());
     DialogStart(mainWindow, Qt::CustomizeWindowHint | Qt::WindowStaysOnTopHint).exec();

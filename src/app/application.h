@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "app/startmarker.h"
+
 #include <QApplication>
+
+#include <optional>
 
 class MainWindow;
 
@@ -26,12 +30,14 @@ public:
 private:
     void setValidationPatterns();
     void logStart() const;
+    void loadLanguages();
     void createMainWindow();
     void welcome();
     void presentMainWindow();
     void terminate();
 
     MainWindow *mainWindow = nullptr;
+    std::optional<StartMarker> startMarker;
     bool initialized = false;
     bool ended = false;
 };

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QMutex>
 #include <QThread>
@@ -89,6 +90,10 @@ void AppLog::openFile()
     if (!QDir(folder).exists())
         QDir().mkdir(folder);
     file.setFileName(folder + QDate::currentDate().toString(u"yyyy-MM-dd"_s) + ".txt"_L1);
+    // Opening a pipe would wait for whoever reads from it, and a link leads to a file that is not the log's.
+    const QFileInfo there(file);
+    if (there.isSymLink() || (there.exists() && !there.isFile()))
+        return;
     file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered);
 }
 

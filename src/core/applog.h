@@ -20,7 +20,8 @@ public:
     Q_DISABLE_COPY_MOVE(AppLog)
 
     /// Stamps the text with the time and queues it as "time|text". With file output on the line is also
-    /// written to the log file; a folder or file that cannot be made is silently done without.
+    /// written to the log file; a folder or file that cannot be made is silently done without, and so is what
+    /// is no regular file.
     void append(QString text);
 
     /// Lines not yet taken, oldest first. A line that was written to the file ends in a newline.

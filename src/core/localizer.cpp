@@ -47,7 +47,7 @@ void Localizer::destroy()
     theLocalizer = nullptr;
 }
 
-void Localizer::discover()
+void Localizer::discover(Saved saved)
 {
     localeDirectory = QCoreApplication::applicationDirPath() + "/locale"_L1;
     // Deliberate: the built-in English is "en_UK" here, while setLanguage() takes "en_EN" for no translation.
@@ -57,18 +57,19 @@ void Localizer::discover()
         return;
     const QStringList fileNames = directory.entryList({u"*.qm"_s});
     for (const QString &fileName : fileNames)
-        addDiscovered(fileName);
+        addDiscovered(fileName, saved);
     QCoreApplication::processEvents();
 }
 
-void Localizer::addDiscovered(const QString &fileName)
+void Localizer::addDiscovered(const QString &fileName, Saved saved)
 {
     const QString code = codeOf(fileName);
     const QLocale locale(code);
     languages.append({QLocale::languageToString(locale.language()),
                       QLocale::territoryToString(locale.territory()), fileName,
                       u"%1/%2.png"_s.arg(localeDirectory, code), code});
-    if (SettingsStore::instance()->value(SettingKey::MiscLanguage, QVariant()) == QVariant(code))
+    if (saved == Saved::Install &&
+        SettingsStore::instance()->value(SettingKey::MiscLanguage, QVariant()) == QVariant(code))
         setLanguage(code);
 }
 

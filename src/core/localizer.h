@@ -27,11 +27,14 @@ public:
     static Localizer *instance();
     static void destroy();
 
+    enum class Saved { Install, Ignore };
+
     Localizer() = default;
     Q_DISABLE_COPY_MOVE(Localizer)
 
-    /// Fills the list of languages and installs the saved one. To be called once.
-    void discover();
+    /// Fills the list of languages and installs the saved one, unless it is to be ignored: the interface is
+    /// in English then, and the setting stays. To be called once.
+    void discover(Saved saved = Saved::Install);
 
     /// Saves the code as the chosen language and installs its translation. A code without a translation, or a
     /// file that does not load, leaves the interface in English.
@@ -44,7 +47,7 @@ public:
     void fillLanguageTree(QTreeWidget *tree) const;
 
 private:
-    void addDiscovered(const QString &fileName);
+    void addDiscovered(const QString &fileName, Saved saved);
     bool load(const QString &path);
 
     QList<LanguageEntry> languages;

@@ -4,6 +4,8 @@
 #include "core/applog.h"
 #include "unit/support/testfolder.h"
 
+#include "fileidentity.h"
+
 #include <QDate>
 #include <QRegularExpression>
 #include <QTest>
@@ -27,6 +29,14 @@ QStringList textsOf(const QStringList &lines)
     for (const QString &line : lines)
         texts.append(textOf(line));
     return texts;
+}
+
+/// The day may change while a test runs.
+QStringList possibleLogFiles()
+{
+    const QDate today = QDate::currentDate();
+    return {today.toString(u"'logs/'yyyy-MM-dd'.txt'"_s),
+            today.addDays(1).toString(u"'logs/'yyyy-MM-dd'.txt'"_s)};
 }
 
 } // namespace
@@ -56,6 +66,10 @@ private slots:
     void closingALogThatWroteNothingSaysNothing();
     void fileInThePlaceOfTheLogsFolderIsSilentlyDoneWithout();
     void folderInThePlaceOfTheLogFileIsSilentlyDoneWithout();
+    void pipeInThePlaceOfTheLogFileIsNotOpened();
+    void linkInThePlaceOfTheLogFileIsNotFollowed_data();
+    void linkInThePlaceOfTheLogFileIsNotFollowed();
+    void linkedLogsFolderIsFollowed();
     void writingStartsOnceTheObstacleIsGone();
     void destroyingTheLogClosesItsFile();
 
@@ -300,15 +314,59 @@ void TestAppLog::fileInThePlaceOfTheLogsFolderIsSilentlyDoneWithout()
 
 void TestAppLog::folderInThePlaceOfTheLogFileIsSilentlyDoneWithout()
 {
-    // The day may change while the test runs.
-    for (const int day : {0, 1})
-        QVERIFY(QDir().mkpath(u"logs/"_s + QDate::currentDate().addDays(day).toString(u"yyyy-MM-dd"_s) +
-                              u".txt"));
+    for (const QString &path : possibleLogFiles())
+        QVERIFY(QDir().mkpath(path));
     const MessageCatcher catcher;
     log->setSaveToFile(true);
     log->append(u"one"_s);
     QCOMPARE(textsOf(log->pendingLines()), QStringList(u"one"_s));
     QCOMPARE(catcher.messages(), QStringList());
+}
+
+// Opening it would wait for whoever reads from it: the start, or the click on "Save", would never end.
+void TestAppLog::pipeInThePlaceOfTheLogFileIsNotOpened()
+{
+    QVERIFY(QDir().mkdir(u"logs"_s));
+    for (const QString &path : possibleLogFiles())
+        QVERIFY(makePipe(path));
+    const MessageCatcher catcher;
+    log->setSaveToFile(true);
+    log->append(u"one"_s);
+    QCOMPARE(textsOf(log->pendingLines()), QStringList(u"one"_s));
+    QCOMPARE(catcher.messages(), QStringList());
+}
+
+void TestAppLog::linkInThePlaceOfTheLogFileIsNotFollowed_data()
+{
+    QTest::addColumn<bool>("leadsToAFile");
+
+    QTest::newRow("to a file") << true;
+    QTest::newRow("to nothing") << false;
+}
+
+void TestAppLog::linkInThePlaceOfTheLogFileIsNotFollowed()
+{
+    QFETCH(bool, leadsToAFile);
+    const QString elsewhere = folder->path(u"elsewhere"_s);
+    if (leadsToAFile)
+        QVERIFY(writeFile(elsewhere, "mine"));
+    QVERIFY(QDir().mkdir(u"logs"_s));
+    for (const QString &path : possibleLogFiles())
+        QVERIFY(QFile::link(elsewhere, path));
+    log->setSaveToFile(true);
+    log->append(u"one"_s);
+    QCOMPARE(textsOf(log->pendingLines()), QStringList(u"one"_s));
+    QCOMPARE(readFile(elsewhere), leadsToAFile ? "mine" : "(cannot be read)");
+}
+
+// Someone may well keep the logs on another disk.
+void TestAppLog::linkedLogsFolderIsFollowed()
+{
+    QVERIFY(QDir().mkdir(u"disk"_s));
+    QVERIFY(QFile::link(folder->path(u"disk"_s), u"logs"_s));
+    log->setSaveToFile(true);
+    log->append(u"one"_s);
+    QCOMPARE(writtenTexts(), QStringList(u"one"_s));
 }
 
 void TestAppLog::writingStartsOnceTheObstacleIsGone()

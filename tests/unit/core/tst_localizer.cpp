@@ -50,6 +50,7 @@ private slots:
     void entriesAreFoundByTheirExactCode();
     void otherFilesAreNoLanguages();
     void savedLanguageIsInstalledAtDiscovery();
+    void savedLanguageCanBeIgnoredForOnce();
     void savedEnglishInstallsNothing_data();
     void savedEnglishInstallsNothing();
     void savedLanguageWhoseFileIsGoneIsKept();
@@ -192,6 +193,18 @@ void TestLocalizer::savedLanguageIsInstalledAtDiscovery()
     QCOMPARE(savedLanguage(), u"fr_FR"_s);
 }
 
+void TestLocalizer::savedLanguageCanBeIgnoredForOnce()
+{
+    QVERIFY(LocaleFolder::offer(u"x-de_DE.qm"_s));
+    saveLanguage(u"de_DE"_s);
+    Localizer localizer;
+    localizer.discover(Localizer::Saved::Ignore);
+    QCOMPARE(word(), u"Replace"_s);
+    QCOMPARE(savedLanguage(), u"de_DE"_s);
+    localizer.setLanguage(u"de_DE"_s);
+    QCOMPARE(word(), u"Ersetzen"_s);
+}
+
 void TestLocalizer::savedEnglishInstallsNothing_data()
 {
     QTest::addColumn<QString>("code");
@@ -331,14 +344,15 @@ void TestLocalizer::damagedFileHarmsNothing_data()
 void TestLocalizer::damagedFileHarmsNothing()
 {
     QFETCH(int, value);
-    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    const QByteArray good = sampleContent();
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QVERIFY(QDir().mkdir(LocaleFolder::path()) && writeFile(path, good));
     Localizer localizer;
     localizer.discover();
-    const QByteArray good = sampleContent();
     for (qsizetype i = 0; i < good.size(); ++i) {
         QByteArray damaged = good;
         damaged[i] = static_cast<char>(value);
-        QVERIFY(writeFile(LocaleFolder::path(u"app-de_DE.qm"_s), damaged));
+        QVERIFY(writeFile(path, damaged));
         localizer.setLanguage(u"de_DE"_s);
         const QString translated = word();
         QVERIFY(!translated.isEmpty());
@@ -364,10 +378,10 @@ void TestLocalizer::fileThatDependsOnItselfIsItsOwnEnd()
 
 void TestLocalizer::pipeInThePlaceOfAFileIsNotOpened()
 {
-    QVERIFY(LocaleFolder::offer(u"app-de_DE.qm"_s));
+    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
+    QVERIFY(QDir().mkdir(LocaleFolder::path()) && writeFile(path, sampleContent()));
     Localizer localizer;
     localizer.discover();
-    const QString path = LocaleFolder::path(u"app-de_DE.qm"_s);
     QVERIFY(QFile::remove(path));
     // Where there are no pipes the file is merely gone.
     static_cast<void>(makePipe(path));
