@@ -18,9 +18,14 @@ void FileItemDelegate::includeWidth(const QString &text)
     const auto *view = qobject_cast<const QWidget *>(parent());
     if (view->font() != font || characterWidths.isEmpty())
         followFont(view->font());
+    qint16 *const widths = characterWidths.data();
     int width = 0;
-    for (const QChar character : text)
-        width += characterWidth(character.unicode());
+    for (const QChar character : text) {
+        qint16 &known = widths[character.unicode()];
+        if (known < 0)
+            known = characterWidth(character);
+        width += known;
+    }
     widest = std::max(widest, width);
 }
 
@@ -45,13 +50,9 @@ void FileItemDelegate::initStyleOption(QStyleOptionViewItem *option, const QMode
     option->text.replace(QChar::LineSeparator, QChar::Space);
 }
 
-int FileItemDelegate::characterWidth(char16_t character)
+qint16 FileItemDelegate::characterWidth(QChar character) const
 {
-    qint16 &width = characterWidths[character];
-    if (width < 0)
-        width =
-            static_cast<qint16>(std::clamp(QFontMetrics(font).horizontalAdvance(QChar(character)), 0, 1000));
-    return width;
+    return static_cast<qint16>(std::clamp(QFontMetrics(font).horizontalAdvance(character), 0, 1000));
 }
 
 void FileItemDelegate::followFont(const QFont &newFont)

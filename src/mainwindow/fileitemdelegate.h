@@ -28,7 +28,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
-    [[nodiscard]] int characterWidth(char16_t character);
+    [[nodiscard]] qint16 characterWidth(QChar character) const;
     void followFont(const QFont &font);
 
     QFont font;

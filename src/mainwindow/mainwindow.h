@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "run/filepath.h"
+
 #include <QMainWindow>
 #include <QMap>
 #include <QMimeData>
@@ -110,6 +112,7 @@ private:
     void showReport(const RenameRun &run);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    FilePaths filePaths;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned

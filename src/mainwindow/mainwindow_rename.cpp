@@ -26,7 +26,7 @@ QString MainWindow::newName(const QString &name, int row) const
 
 void MainWindow::updateFileItem(int row)
 {
-    const FilePath file = FilePath::of(ui->listWidgetFiles->path(row));
+    const FilePath file = filePaths.split(ui->listWidgetFiles->path(row));
     QString text = ui->buttonPreview->isChecked() ? newName(file.name(), row) : file.name();
     if (ui->checkBoxShowFullPath->isChecked()) {
         // Deliberate: a folder on a network share is shown with one leading separator.
@@ -80,7 +80,7 @@ void MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
 
 void MainWindow::renameRow(RenameRun &run, int row)
 {
-    const FilePath file = FilePath::of(ui->listWidgetFiles->path(row));
+    const FilePath file = filePaths.split(ui->listWidgetFiles->path(row));
     const QString name = file.name();
     const Outcome outcome = run.next(file, newName(name, row));
     if (outcome.isRenamed())

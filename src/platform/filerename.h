@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <memory>
+
 /// What came of a rename.
 enum class RenameResult {
     Done,
@@ -19,9 +21,29 @@ enum class RenameResult {
     Other,
 };
 
-/// QFile::rename with one system call where that is enough, and without its last resort. Where the file
-/// system refuses a rename, QFile::rename copies the bytes into the target, which it opens with truncation,
-/// and deletes the source: a target that appeared in the meantime, or a dangling link's destination, would be
-/// overwritten. This one never copies: the file is moved by the file system in one step, or stays where it is
-/// and the result says why. An existing target is refused. A dangling link is renamed itself.
-[[nodiscard]] RenameResult renameFile(const QString &from, const QString &to);
+/// Renames files: QFile::rename with one system call where that is enough, and without its last resort. Where
+/// the file system refuses a rename, QFile::rename copies the bytes into the target, which it opens with
+/// truncation, and deletes the source: a target that appeared in the meantime, or a dangling link's
+/// destination, would be overwritten. This one never copies: the file is moved by the file system in one
+/// step, or stays where it is and the result says why. An existing target is refused. A dangling link is
+/// renamed itself.
+class FileRenamer final
+{
+public:
+    FileRenamer();
+    ~FileRenamer();
+    Q_DISABLE_COPY_MOVE(FileRenamer)
+
+    /// Costs least for one file of a folder after the other.
+    [[nodiscard]] RenameResult rename(const QString &from, const QString &to);
+
+private:
+    struct System;
+    std::unique_ptr<System> system;
+};
+
+/// The same for one file.
+[[nodiscard]] inline RenameResult renameFile(const QString &from, const QString &to)
+{
+    return FileRenamer().rename(from, to);
+}

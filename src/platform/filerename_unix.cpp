@@ -1,47 +1,60 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "platform/filerename_system.h"
+#include "platform/filerename.h"
+
+#include "platform/pathbytes_unix.h"
 
 #include <QFile>
 
 #include <cerrno>
 #include <cstdio>
+#include <string>
+#include <string_view>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
 namespace {
 
+/// QFile::rename refuses to copy what it takes for a sequential device.
+class UncopiedFile final : public QFile
+{
+public:
+    using QFile::QFile;
+    [[nodiscard]] bool isSequential() const override { return true; }
+};
+
 /// A change of case alone finds the file itself.
-bool isSameFile(const QByteArray &path, const struct stat &other)
+bool isSameFile(const char *path, const struct stat &other)
 {
     struct stat there = {};
-    return lstat(path.constData(), &there) == 0 && there.st_dev == other.st_dev &&
-           there.st_ino == other.st_ino;
+    return lstat(path, &there) == 0 && there.st_dev == other.st_dev && there.st_ino == other.st_ino;
 }
 
-bool exists(const QByteArray &path)
+bool exists(const char *path)
 {
     struct stat there = {};
-    return lstat(path.constData(), &there) == 0;
+    return lstat(path, &there) == 0;
 }
 
 /// Whether nothing is there, as opposed to what nobody may look at.
-bool isMissing(const QByteArray &path)
+bool isMissing(const char *path)
 {
     return !exists(path) && (errno == ENOENT || errno == ENOTDIR);
 }
 
-bool isFolder(const QByteArray &path)
+bool hasFolder(const char *path)
 {
+    const std::string_view whole(path);
+    const std::string folder(whole.substr(0, whole.rfind('/') + 1));
     struct stat there = {};
-    return stat(path.constData(), &there) == 0 && S_ISDIR(there.st_mode);
+    return stat(folder.c_str(), &there) == 0 && S_ISDIR(there.st_mode);
 }
 
 /// What an error means. The system looks at permissions sometimes before, sometimes after it looks whether
 /// the files are there; here what is there counts first.
-RenameResult meaningOf(int error, const QByteArray &from, const QByteArray &to)
+RenameResult meaningOf(int error, const char *from, const char *to)
 {
     switch (error) {
     case EEXIST:
@@ -51,7 +64,7 @@ RenameResult meaningOf(int error, const QByteArray &from, const QByteArray &to)
         if (isMissing(from))
             return RenameResult::SourceMissing;
         // With both folders there it is exFAT's word for a name that it does not take.
-        return isFolder(to.first(to.lastIndexOf('/') + 1)) ? RenameResult::BadName : RenameResult::Other;
+        return hasFolder(to) ? RenameResult::BadName : RenameResult::Other;
     case EACCES:
     case EPERM:
     case EROFS:
@@ -68,14 +81,40 @@ RenameResult meaningOf(int error, const QByteArray &from, const QByteArray &to)
     }
 }
 
+/// Why QFile, which says nothing of use, has just refused.
+RenameResult whyRefused(const char *from, const char *to)
+{
+    const int error = errno;
+    if (isMissing(from))
+        return RenameResult::SourceMissing;
+    return exists(to) ? RenameResult::TargetExists : meaningOf(error, from, to);
+}
+
 } // namespace
 
-std::optional<RenameResult> renameWithoutReplacing(const QString &from, const QString &to)
+struct FileRenamer::System
 {
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
+    PathBytes source;
+    PathBytes target;
+};
+
+FileRenamer::FileRenamer()
+    : system(std::make_unique<System>())
+{
+}
+
+FileRenamer::~FileRenamer() = default;
+
+RenameResult FileRenamer::rename(const QString &from, const QString &to)
+{
+    const char *source = system->source.of(from);
+    if (!source)
+        return RenameResult::SourceMissing;
+    const char *target = system->target.of(to);
+    if (!target)
+        return RenameResult::BadName;
 #ifdef RENAME_NOREPLACE
-    if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+    if (renameat2(AT_FDCWD, source, AT_FDCWD, target, RENAME_NOREPLACE) == 0)
         return RenameResult::Done;
     const int error = errno;
     // Nothing else would come of another way. A change of case alone may find the file itself in its way.
@@ -88,21 +127,12 @@ std::optional<RenameResult> renameWithoutReplacing(const QString &from, const QS
     // one that leads nowhere is free for it, and lost where the file system knows neither hard links nor how
     // to refuse.
     struct stat there = {};
-    if (lstat(target.constData(), &there) != 0)
-        return errno == ENAMETOOLONG ? std::optional(RenameResult::TooLong) : std::nullopt;
-    if (S_ISLNK(there.st_mode) && !isSameFile(source, there))
+    const bool isTaken = lstat(target, &there) == 0;
+    if (!isTaken && errno == ENAMETOOLONG)
+        return RenameResult::TooLong;
+    if (isTaken && S_ISLNK(there.st_mode) && !isSameFile(source, there))
         return RenameResult::TargetExists;
-    return std::nullopt;
-}
-
-RenameResult whyNotRenamed(const QString &from, const QString &to)
-{
-    const int error = errno;
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
-    if (isMissing(source))
-        return RenameResult::SourceMissing;
-    if (exists(target))
-        return RenameResult::TargetExists;
-    return meaningOf(error, source, target);
+    // QFile knows what is left: a change of case alone where case does not matter, and file systems that
+    // cannot refuse to replace.
+    return UncopiedFile(from).rename(to) ? RenameResult::Done : whyRefused(source, target);
 }

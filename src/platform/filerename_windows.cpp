@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "platform/filerename.h"
+
 #include "platform/extendedpath_windows.h"
-#include "platform/filerename_system.h"
 
 #include <windows.h>
 
@@ -49,10 +50,28 @@ RenameResult meaningOf(DWORD error, const QString &source, const QString &target
     }
 }
 
+/// The system would read a path up to the first null character only. Half a character is a name for Windows,
+/// but for nobody else, and no chain of rules means it.
+bool canBeWritten(const QString &path)
+{
+    return !path.isEmpty() && !path.contains(QChar::Null) && path.isValidUtf16();
+}
+
 } // namespace
 
-std::optional<RenameResult> renameWithoutReplacing(const QString &from, const QString &to)
+struct FileRenamer::System
 {
+};
+
+FileRenamer::FileRenamer() = default;
+FileRenamer::~FileRenamer() = default;
+
+RenameResult FileRenamer::rename(const QString &from, const QString &to)
+{
+    if (!canBeWritten(from))
+        return RenameResult::SourceMissing;
+    if (!canBeWritten(to))
+        return RenameResult::BadName;
     const QString source = extendedPath(from);
     const QString target = extendedPath(to);
     if (source.isEmpty())
@@ -71,12 +90,4 @@ std::optional<RenameResult> renameWithoutReplacing(const QString &from, const QS
                     reinterpret_cast<const wchar_t *>(target.utf16()), 0))
         return RenameResult::Done;
     return meaningOf(GetLastError(), source, target);
-}
-
-RenameResult whyNotRenamed(const QString &from, const QString &to)
-{
-    // QFile is never asked here.
-    Q_UNUSED(from)
-    Q_UNUSED(to)
-    return RenameResult::Other;
 }

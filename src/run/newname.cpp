@@ -9,11 +9,16 @@
 
 using namespace Qt::StringLiterals;
 
+bool leadsElsewhere(QStringView newName)
+{
+    return std::any_of(newName.utf16(), newName.utf16() + newName.size(), [](char16_t character) {
+        return character == u'/' || QChar(character) == QDir::separator();
+    });
+}
+
 NewName::NewName(QStringView newName)
 {
-    const qsizetype separator = std::max(newName.lastIndexOf(u'/'), newName.lastIndexOf(QDir::separator()));
-    leadsElsewhere = separator >= 0;
-    lastPartAt = separator + 1;
+    lastPartAt = std::max(newName.lastIndexOf(u'/'), newName.lastIndexOf(QDir::separator())) + 1;
     const QStringView lastPart = newName.sliced(lastPartAt);
     if (!newName.isValidUtf16())
         refusal = Fate::NoText;

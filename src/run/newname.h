@@ -9,13 +9,14 @@
 
 #include <optional>
 
+/// Whether a new name leads to another folder, or would.
+[[nodiscard]] bool leadsElsewhere(QStringView newName);
+
 /// What is to be seen of a new name without a look at the disk.
 struct NewName
 {
     explicit NewName(QStringView newName);
 
-    /// Whether it leads to another folder, or would.
-    bool leadsElsewhere = false;
     /// Where its last part begins, behind the last separator.
     qsizetype lastPartAt = 0;
     /// NoText, NotAllowed or Empty, where no disk could take the name.

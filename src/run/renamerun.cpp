@@ -41,23 +41,26 @@ Outcome RenameRun::next(const FilePath &file, const QString &newName)
     outcome.path = file.sibling(newName);
     const RenameResult result = disk.rename(file, outcome.path);
     ++handledRows;
-    if (result != RenameResult::Done)
+    if (result == RenameResult::Done) {
+        outcome.reason = Fate::Renamed;
+    } else {
         ++failedRows;
-    const NewName parts(newName);
-    outcome.reason = result == RenameResult::Done ? Fate::Renamed : whyNot(file, newName, result);
-    outcome.fate = parts.leadsElsewhere && outcome.reason != Fate::NoText ? Fate::Separator : outcome.reason;
+        outcome.reason = whyNot(file, newName, result);
+    }
+    const bool isSeparator = leadsElsewhere(newName) && outcome.reason != Fate::NoText;
+    outcome.fate = isSeparator ? Fate::Separator : outcome.reason;
     return outcome;
 }
 
 Fate RenameRun::whyNot(const FilePath &file, const QString &newName, RenameResult result) const
 {
-    const NewName parts(newName);
-    if (parts.refusal)
-        return *parts.refusal;
+    const NewName seen(newName);
+    if (seen.refusal)
+        return *seen.refusal;
     if (result == RenameResult::TargetExists && newName == file.name())
         return Fate::Unchanged;
-    if (result == RenameResult::Other && parts.leadsElsewhere)
-        return whyNotThere(file, file.sibling(newName.first(parts.lastPartAt)));
+    if (result == RenameResult::Other && leadsElsewhere(newName))
+        return whyNotThere(file, file.sibling(newName.first(seen.lastPartAt)));
     return fateOf(result);
 }
 

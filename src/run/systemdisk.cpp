@@ -5,7 +5,7 @@
 
 RenameResult SystemDisk::rename(const FilePath &from, const QString &to)
 {
-    return renameFile(from.path, to);
+    return renamer.rename(from.path, to);
 }
 
 std::optional<FileIdentity> SystemDisk::identity(const QString &path) const

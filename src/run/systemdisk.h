@@ -11,4 +11,7 @@ class SystemDisk final : public Disk
 public:
     [[nodiscard]] RenameResult rename(const FilePath &from, const QString &to) override;
     [[nodiscard]] std::optional<FileIdentity> identity(const QString &path) const override;
+
+private:
+    FileRenamer renamer;
 };

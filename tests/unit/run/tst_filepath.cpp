@@ -59,6 +59,23 @@ private slots:
         QCOMPARE(file.sibling({}), expected.absolutePath() + u'/');
     }
 
+    void aListIsSplitLikeSinglePaths()
+    {
+        const QString root = QDir::rootPath();
+        FilePaths paths;
+        for (const QString &path :
+             {u"a/b"_s, u"a/c"_s, u"a/"_s, u"a/."_s, u"a/.."_s, u"a/.c"_s, u"a/b/c"_s, u"a//c"_s, u"a/b/d"_s,
+              u"a/b"_s, u"a/./c"_s, u"a/bc"_s, u"a"_s, u"b"_s, u"a/b/../c"_s, u"a/b\\c"_s, u"a/b/c/d"_s}) {
+            const QFileInfo expected(root + path);
+            const FilePath file = paths.split(root + path);
+            QCOMPARE(file.name(), expected.fileName());
+            QCOMPARE(file.folder(), expected.absolutePath());
+            QCOMPARE(file.path, expected.absolutePath() + u'/' + expected.fileName());
+        }
+        QCOMPARE(paths.split(u"a/b"_s).path, QFileInfo(u"a/b"_s).absoluteFilePath());
+        QCOMPARE(paths.split({}).path, FilePath::of({}).path);
+    }
+
     // What is plain is not given to QFileInfo, which takes ten times as long.
     void pathsOfScansAndDropsArePlain_data()
     {
