@@ -1,7 +1,9 @@
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
 #
-# Sourced by run and test: the Debian packages that each needs, and their installation.
+# Sourced by run, test and the other scripts: the Debian packages that each needs, and their installation.
+
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 build_packages=(
     cmake g++ ninja-build
@@ -27,10 +29,8 @@ ensure_packages() {
     done
     [ ${#missing[@]} -eq 0 ] && return 0
     echo "Installing: ${missing[*]}"
-    local as_root=()
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-    "${as_root[@]}" apt-get update -q
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
 # build PRESET: configures when needed and builds; says nothing when there is nothing to do.
