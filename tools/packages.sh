@@ -1,20 +1,22 @@
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
 #
-# Sourced by run and test: the Debian packages that each needs, and their installation.
+# Sourced by run, test and the other scripts: the Debian packages that each needs, and their installation.
+
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 build_packages=(
     cmake g++ ninja-build
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libgl-dev
 )
 run_packages=(fonts-dejavu-core xdg-utils)
-benchmark_packages=(gnuplot-nox mmv moreutils python3 rename util-linux)
+benchmark_packages=(gnuplot-nox mmv mold moreutils python3 rename util-linux)
 virtual_display_packages=(openbox xauth xvfb)
 test_packages=(
     at-spi2-core binutils clang-format-14 dbus dbus-bin dbus-daemon dosfstools e2fsprogs exfat-fuse exfatprogs
-    fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mount ntfs-3g openbox
-    procps python3 python3-gi python3-pyatspi qt6-wayland qt6ct trayer util-linux weston wmctrl x11-utils x11-xserver-utils
-    xauth xdg-utils xdotool xkb-data xvfb
+    fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mold mount ntfs-3g
+    openbox procps python3 python3-gi python3-pyatspi qt6-wayland qt6ct trayer util-linux weston wmctrl
+    x11-utils x11-xserver-utils xauth xdg-utils xdotool xkb-data xvfb
 )
 analysis_packages=(clang-tidy-14 clazy python3)
 fuzz_packages=(clang-14 fonts-dejavu-core libclang-rt-14-dev python3)
@@ -27,10 +29,8 @@ ensure_packages() {
     done
     [ ${#missing[@]} -eq 0 ] && return 0
     echo "Installing: ${missing[*]}"
-    local as_root=()
-    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-    "${as_root[@]}" apt-get update -q
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+    as_root apt-get update -q
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
 # build PRESET: configures when needed and builds; says nothing when there is nothing to do.

@@ -5,6 +5,8 @@
 
 windowsDir=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 projectDir=$(cd "$windowsDir/../.." && pwd)
+# shellcheck source=../../../tools/packages.sh
+source "$projectDir/tools/packages.sh"
 cacheDir=$(realpath -m "${ORVANTO_CACHE:-$HOME/.cache/orvanto}")/windows
 sourceDir=$cacheDir/src
 qtDir=$cacheDir/qt6
@@ -13,19 +15,6 @@ buildDir=$projectDir/build/windows
 jobs=${ORVANTO_JOBS:-2}
 
 say() { printf '\n== %s\n' "$*"; }
-
-fail() {
-    printf '%s: %s\n' "$(basename "$0")" "$*" >&2
-    exit 1
-}
-
-asRoot() {
-    if [[ $(id -u) -eq 0 ]]; then
-        "$@"
-    else
-        sudo "$@"
-    fi
-}
 
 # stampIs FILE TEXT: does the stamp hold exactly this text?
 stampIs() { [[ -f $1 && $(<"$1") == "$2" ]]; }

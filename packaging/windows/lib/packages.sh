@@ -14,13 +14,4 @@ windowsPackages=(
     wine wine64 fonts-wine fonts-dejavu-core xvfb xauth openbox xdotool wmctrl imagemagick
 )
 
-installPackages() {
-    local missing=() name
-    for name in "${windowsPackages[@]}"; do
-        [[ $(dpkg-query -W -f '${db:Status-Status}' "$name" 2>/dev/null) == installed ]] || missing+=("$name")
-    done
-    [[ ${#missing[@]} -eq 0 ]] && return
-    say "Installing ${missing[*]}"
-    asRoot apt-get update -qq
-    asRoot env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
-}
+installPackages() { ensure_packages "${windowsPackages[@]}"; }

@@ -128,9 +128,9 @@ class Program:
         number = until(lambda: self.x_window(title), f"the window {title!r}")
         self.desktop.run("wmctrl", "-i", "-c", number)
 
-    def wait(self):
+    def wait(self, deadline=DEADLINE):
         """The exit code, once the program has ended."""
         try:
-            return self.process.wait(DEADLINE)
+            return self.process.wait(deadline)
         except subprocess.TimeoutExpired:
             raise AssertionError(f"the program did not end; its windows: {self.windows}") from None

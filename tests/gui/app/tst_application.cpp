@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/application.h"
+#include "app/splash.h"
 #include "core/settingsstore.h"
 #include "mainwindow/mainwindow.h"
 
@@ -27,6 +28,7 @@ private slots:
     void worksInTheDataFolder();
     void logsTheStartInOrder();
     void windowGetsTheStoredOpacity();
+    void closingTheLastWindowDoesNotEndIt();
 };
 
 namespace {
@@ -95,27 +97,68 @@ void TestApplication::windowGetsTheStoredOpacity()
     QVERIFY(std::abs(mainWindow()->windowOpacity() - 0.5) < 1.0 / 255);
 }
 
+void TestApplication::closingTheLastWindowDoesNotEndIt()
+{
+    // With the window in the tray, the last one may be a box.
+    QVERIFY(!QGuiApplication::quitOnLastWindowClosed());
+}
+
+/// What is shown during a start-up.
+class TestSplashAtStart final : public QObject
+{
+    Q_OBJECT
+
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && dynamic_cast<SplashFrame *>(watched))
+            ++shown;
+        return false;
+    }
+
+    int shown = 0;
+    int expected = 0;
+
+private slots:
+    void isShownUnlessSwitchedOff() { QCOMPARE(shown, expected); }
+};
+
+namespace {
+
+bool writeSettings(const QTemporaryDir &home, const QByteArray &splash)
+{
+    QDir().mkpath(home.filePath(u"Kavrondel/Orvanto/config"_s));
+    QFile file(home.filePath(u"Kavrondel/Orvanto/config/global.xml"_s));
+    const QByteArray text = "<Settings><Misc><IsFirstStart>false</IsFirstStart>" + splash +
+                            "</Misc><Window><Opacity>0.5</Opacity></Window>"
+                            "<SupportUsHint>false</SupportUsHint></Settings>";
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
     const QString before = QDir::currentPath();
-    const QTemporaryDir home;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
-    QDir().mkpath(home.filePath(u"Kavrondel/Orvanto/config"_s));
-    QFile file(home.filePath(u"Kavrondel/Orvanto/config/global.xml"_s));
-    if (!file.open(QIODevice::WriteOnly))
-        return 1;
-    file.write("<Settings><Misc><IsFirstStart>false</IsFirstStart><DisableSplashScreen>true</"
-               "DisableSplashScreen></Misc>"
-               "<Window><Opacity>0.5</Opacity></Window><SupportUsHint>false</SupportUsHint></Settings>");
-    file.close();
     int result = 0;
-    {
-        Application application(argc, argv);
-        application.init();
-        TestApplication test;
-        result = QTest::qExec(&test, argc, argv);
+    for (const QByteArray &splash :
+         {QByteArray("<DisableSplashScreen>true</DisableSplashScreen>"), QByteArray()}) {
+        const QTemporaryDir home;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+        if (!writeSettings(home, splash))
+            return 1;
+        {
+            TestSplashAtStart atStart;
+            atStart.expected = splash.isEmpty() ? 1 : 0;
+            Application application(argc, argv);
+            application.installEventFilter(&atStart);
+            application.init();
+            result |= QTest::qExec(&atStart, argc, argv);
+            TestApplication test;
+            result |= QTest::qExec(&test, argc, argv);
+        }
+        QDir::setCurrent(before);
     }
-    QDir::setCurrent(before);
     return result;
 }
 #include "tst_application.moc"

@@ -5,6 +5,7 @@
 #include "dialogstest.h"
 
 #include <QCheckBox>
+#include <QSignalSpy>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -124,8 +125,10 @@ void TestDialogNotice::countsDownAndCloses()
     connect(find<QSpinBox>(dialog, "spinBox"), &QSpinBox::valueChanged, this,
             [&](int value) { shown.append(value); });
     auto *timer = dialog.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
+    const QSignalSpy ticks(timer, &QTimer::timeout);
     timer->setInterval(1);
     QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+    QCOMPARE(ticks.count(), 15);
     QCOMPARE(shown, (QList<int>{14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}));
     QVERIFY(!timer->isActive());
     QVERIFY(!dialog.isVisible());
