@@ -8,6 +8,7 @@
 #include "dialogs/dialognotice.h"
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/progressdialog.h"
+#include "mainwindow/savedstate.h"
 #include "ui_mainwindow.h"
 
 #include <QCloseEvent>
@@ -46,6 +47,11 @@ int opacityEntry(double opacity)
     // Deliberate: an opacity of 0 gives -1, which as an unsigned number is beyond the last entry.
     const auto entry = static_cast<unsigned>(static_cast<int>(percent * opacitySteps / 100.0 - 1));
     return static_cast<int>(std::min(entry, opacitySteps - 1U));
+}
+
+QByteArray storedBytes(SettingKey key)
+{
+    return QByteArray::fromHex(SettingsStore::instance()->value(key, {}).toString().toLatin1());
 }
 
 QString supportRequest()
@@ -171,9 +177,9 @@ void MainWindow::restoreWindowSettings()
         opacity = 1.0;
     settings->setValue(SettingKey::WindowOpacity, roundedToTwoDecimals(opacity));
 
-    if (settings->value(SettingKey::WindowLayoutRestore, false).toBool())
-        restoreState(
-            QByteArray::fromHex(settings->value(SettingKey::WindowLayoutData, {}).toString().toLatin1()), 0);
+    const QByteArray layout = storedBytes(SettingKey::WindowLayoutData);
+    if (settings->value(SettingKey::WindowLayoutRestore, false).toBool() && SavedState::isSafeLayout(layout))
+        restoreState(layout, 0);
     if (settings->value(SettingKey::WindowGeometryRestore, false).toBool())
         restoreWindowGeometry();
     if (settings->value(SettingKey::MiscIsFirstStart, true).toBool())
@@ -182,8 +188,9 @@ void MainWindow::restoreWindowSettings()
 
 void MainWindow::restoreWindowGeometry()
 {
-    const QVariant geometry = SettingsStore::instance()->value(SettingKey::WindowGeometryData, {});
-    restoreGeometry(QByteArray::fromHex(geometry.toString().toLatin1()));
+    const QByteArray geometry = storedBytes(SettingKey::WindowGeometryData);
+    if (SavedState::isSafeGeometry(geometry))
+        restoreGeometry(geometry);
     const QSize desktop = QGuiApplication::primaryScreen()->virtualGeometry().size();
     if (x() < 0 || y() < 0 || x() > desktop.width() - screenEdge || y() > desktop.height() - screenEdge)
         move(screenEdge, screenEdge);

@@ -9,7 +9,7 @@ import unittest
 from harness.case import Case
 from harness.desktop import Desktop
 from harness.hands import RIGHT
-from harness.program import SETTLED, Program
+from harness.program import SETTLED, Program, settings_text
 from harness.waiting import until, until_equal, until_still
 from harness.xwindows import is_above, opacity, own_windows, wait_for_menu
 
@@ -136,6 +136,25 @@ class WindowState(Case):
         x, y, _, _ = until_still(self.place, "the window to rest")
         self.assertTrue(0 <= x <= 1280 - 64 and 0 <= y <= 800 - 64, (x, y))
         self.close()
+
+    def test_damaged_bytes_stop_no_start(self):
+        size = self.start_with(RESTORED).frame.extents[2:]
+        self.close()
+        whole = {name: text for name, text in self.program.settings().items() if name != "@version"}
+        layout, geometry = whole["Window.Layout.Data"], whole["Window.Geometry.Data"]
+
+        def damaged(data, byte):
+            return data[:2 * byte] + "7f" + data[2 * byte + 2:]
+
+        # The area of the docks, the number of tool bars, the window's right edge: beyond what there is.
+        for name, data in (("Layout", damaged(layout, 13)), ("Layout", damaged(layout, 170)),
+                           ("Geometry", damaged(geometry, 58))):
+            with self.subTest(data):
+                self.program.write_settings(settings_text({**whole, f"Window.{name}.Data": data}))
+                window = self.start_again()
+                self.assertEqual(window.frame.extents[2:], size)
+                self.close()
+                self.assertEqual(self.program.settings()["Window.Layout.Data"], layout)
 
     def test_nothing_is_kept_while_restoring_is_off(self):
         off = {name: "false" for name in RESTORED}

@@ -3,8 +3,13 @@
 
 #include "core/settingsstore.h"
 #include "fuzztarget.h"
+#include "mainwindow/mainwindow.h"
 
+#include <QCoreApplication>
 #include <QFile>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +17,9 @@ namespace {
 
 constexpr int firstKey = 0;
 constexpr int lastKey = 24;
+MainWindow *window = nullptr;
+constexpr std::array windowKeys{SettingKey::WindowOpacity, SettingKey::WindowLayoutData,
+                                SettingKey::WindowGeometryData};
 // No file can hold this.
 const auto absent = u"\x01 none"_s;
 
@@ -49,11 +57,33 @@ void verifyRoundTrip(const QString &path, SettingsStore &store)
         FUZZ_VERIFY(before.at(i) == after.at(i), u"value %1: \"%2\""_s.arg(i).arg(after.at(i)));
 }
 
+/// The window takes whatever the file holds, also for its docks and its place.
+void restoreWindow(const QString &path)
+{
+    SettingsStore::destroy();
+    SettingsStore *store = SettingsStore::instance();
+    store->setFilePath(path);
+    store->load();
+    const bool isUsed = std::any_of(windowKeys.begin(), windowKeys.end(),
+                                    [&](SettingKey key) { return store->value(key, {}).isValid(); });
+    if (!isUsed)
+        return; // it would cost more than all of the above
+    store->setValue(SettingKey::WindowLayoutRestore, true);
+    store->setValue(SettingKey::WindowGeometryRestore, true);
+    window->restoreWindowSettings();
+    window->show();
+    QCoreApplication::processEvents();
+    window->hide();
+}
+
 } // namespace
 
 int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 {
     startFuzzApplication();
+    // Never deleted: libFuzzer ends the process without leaving main().
+    window = new MainWindow(Qt::Window);
+    window->initialize();
     return 0;
 }
 
@@ -71,5 +101,6 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     verifyRoundTrip(path, store);
     store.setValue(key, text);
     verifyRoundTrip(path, store);
+    restoreWindow(path);
     return 0;
 }
