@@ -10,10 +10,11 @@ MAY_USE = {
     "platform": set(),
     "core": set(),
     "rules": {"core"},
+    "run": {"platform"},
     "update": {"core"},
     "dialogs": {"platform", "core", "update"},
-    "mainwindow": {"platform", "core", "rules", "update", "dialogs"},
-    "app": {"platform", "core", "rules", "update", "dialogs", "mainwindow"},
+    "mainwindow": {"platform", "core", "rules", "run", "update", "dialogs"},
+    "app": {"platform", "core", "rules", "run", "update", "dialogs", "mainwindow"},
 }
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([a-z]+)/', re.MULTILINE)
 
