@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -105,6 +106,28 @@ void Bench::addRule(int page)
 void Bench::clearRules()
 {
     window.onClickedRuleList(8);
+}
+
+void Bench::openInExplorer(const QString &folder)
+{
+    auto *tree = window.findChild<QWidget *>(u"dockWidgetExplorer"_s)->findChild<QTreeView *>();
+    const QAbstractItemModel *model = tree->model();
+    QModelIndex parent;
+    const QStringList names = QStringList(u"/"_s) + folder.split(u'/', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        QModelIndexList found;
+        while (found.isEmpty()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            if (const QModelIndex first = model->index(0, 0, parent); first.isValid())
+                found = model->match(first, Qt::DisplayRole, name, 1, Qt::MatchExactly);
+        }
+        parent = found.constFirst();
+        tree->expand(parent);
+    }
+    while (model->rowCount(parent) == 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    tree->scrollTo(parent, QAbstractItemView::PositionAtTop);
+    QCoreApplication::processEvents();
 }
 
 double Bench::rename()

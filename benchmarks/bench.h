@@ -69,6 +69,8 @@ public:
     void clearRules();
     /// Runs the renaming and closes the report. Seconds until the report is there.
     [[nodiscard]] double rename();
+    /// Opens a folder and all above it in the explorer's dock; returns when its rows are there.
+    void openInExplorer(const QString &folder);
 
     MainWindow window;
     ListWidgetFiles *list;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // Puts "new_" before the name of every file below a folder, by the Rename button of a real main window, and
-// prints the seconds that adding the files and renaming them took. Usage: orvanto_benchmark_run folder
+// prints the seconds that adding the files and renaming them took. Usage: orvanto_benchmark_run folder [open]
+// With "open" the folder is open in the explorer's dock.
 
 #include "bench.h"
 
@@ -18,8 +19,9 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QApplication application(argc, argv);
-    if (argc != 2) {
-        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder\n");
+    const bool open = argc == 3 && qstrcmp(argv[2], "open") == 0;
+    if (argc != 2 && !open) {
+        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder [open]\n");
         return 2;
     }
     const QString folder = QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();
@@ -27,6 +29,8 @@ int main(int argc, char **argv)
     QDir::setCurrent(dataDirectory.path());
     prepareBenchmark();
     Bench bench;
+    if (open)
+        bench.openInExplorer(folder);
     const double added = secondsOf([&] { bench.window.addPath(folder); });
     QCoreApplication::processEvents();
     bench.addRule(InsertTextPage);

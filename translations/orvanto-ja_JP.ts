@@ -195,6 +195,13 @@
     </message>
 </context>
 <context>
+    <name>ExplorerModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
@@ -403,13 +410,6 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>ドックパネルを閉じます</translation>
-    </message>
-</context>
-<context>
-    <name>QFileSystemModel</name>
-    <message>
-        <source>Name</source>
-        <translation>名前</translation>
     </message>
 </context>
 <context>

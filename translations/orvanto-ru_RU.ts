@@ -195,6 +195,13 @@
     </message>
 </context>
 <context>
+    <name>ExplorerModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
@@ -403,13 +410,6 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Закрывает панель</translation>
-    </message>
-</context>
-<context>
-    <name>QFileSystemModel</name>
-    <message>
-        <source>Name</source>
-        <translation>Имя</translation>
     </message>
 </context>
 <context>

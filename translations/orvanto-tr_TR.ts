@@ -195,6 +195,13 @@
     </message>
 </context>
 <context>
+    <name>ExplorerModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
@@ -403,13 +410,6 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Paneli kapatır</translation>
-    </message>
-</context>
-<context>
-    <name>QFileSystemModel</name>
-    <message>
-        <source>Name</source>
-        <translation>Ad</translation>
     </message>
 </context>
 <context>

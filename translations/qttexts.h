@@ -53,9 +53,6 @@ QT_TRANSLATE_NOOP("QScrollBar", "Scroll up")
 QT_TRANSLATE_NOOP("QScrollBar", "Scroll right")
 QT_TRANSLATE_NOOP("QScrollBar", "Scroll down")
 
-// The header of the file explorer; its other columns are hidden.
-QT_TRANSLATE_NOOP("QFileSystemModel", "Name")
-
 // A dock's buttons, as screen readers name them.
 QT_TRANSLATE_NOOP("QDockWidget", "Float")
 QT_TRANSLATE_NOOP("QDockWidget", "Undocks and re-attaches the dock widget")

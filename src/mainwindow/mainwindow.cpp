@@ -9,6 +9,8 @@
 #include "core/settingsstore.h"
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/checkschedule.h"
+#include "mainwindow/explorer.h"
+#include "mainwindow/explorermodel.h"
 #include "platform/shell.h"
 #include "platform/taskbar.h"
 #include "rules/rule.h"
@@ -18,7 +20,7 @@
 #include "update/versioncheck.h"
 
 #include <QDesktopServices>
-#include <QFileSystemModel>
+#include <QDir>
 #include <QKeyEvent>
 #include <QSignalMapper>
 #include <QTimer>
@@ -98,16 +100,15 @@ void MainWindow::createExplorer()
     dockExplorer->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
 
     treeExplorer = new QTreeView(contents);
+    treeExplorer->setObjectName(u"treeExplorer"_s);
     treeExplorer->setDragDropMode(QAbstractItemView::DragOnly);
     treeExplorer->setSelectionMode(QAbstractItemView::ExtendedSelection);
     auto *layout = new QVBoxLayout(contents);
     layout->addWidget(treeExplorer);
-    auto *model = new QFileSystemModel(this);
-    model->setRootPath({});
+    treeExplorer->setUniformRowHeights(true);
+    auto *model = new ExplorerModel(this);
     treeExplorer->setModel(model);
-    model->sort(0, Qt::AscendingOrder);
-    for (int column = 1; column < model->columnCount(); ++column)
-        treeExplorer->hideColumn(column);
+    new Explorer(treeExplorer, model);
 }
 
 void MainWindow::createRules()

@@ -3,9 +3,8 @@
 
 #include "fault/faultrun.h"
 #include "support/duringevents.h"
+#include "support/explorerrows.h"
 
-#include <QDockWidget>
-#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
@@ -347,10 +346,10 @@ private slots:
     {
         const QString name = QString(markup).remove(u'/');
         run->tree.addFile(name);
-        auto *explorer = run->window.child<QDockWidget>("dockWidgetExplorer")->findChild<QTreeView *>();
+        auto *explorer = run->window.child<QTreeView>("treeExplorer");
         explorer->window()->resize(1900, 800);
-        auto *model = qobject_cast<QFileSystemModel *>(explorer->model());
-        const QModelIndex folder = model->setRootPath(run->tree.path());
+        const QAbstractItemModel *model = explorer->model();
+        const QPersistentModelIndex folder = openInExplorer(explorer, run->tree.path());
         explorer->setRootIndex(folder);
         QTRY_COMPARE(model->rowCount(folder), 1);
         const QModelIndex row = model->index(0, 0, folder);

@@ -7,7 +7,6 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QDockWidget>
-#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -102,7 +101,6 @@ private slots:
     void scrollBar_data();
     void scrollBar();
     void messageBox();
-    void fileExplorerHeader();
     void dockButtons();
     void connectionRefused();
     void connectionClosed();
@@ -202,16 +200,6 @@ void TestQtTexts::messageBox()
     QCOMPARE(box.button(QMessageBox::Close)->text(), u"Schließen"_s);
     QCOMPARE(box.button(QMessageBox::Retry)->text(), "Wiederholen"_L1);
     QCOMPARE(box.button(QMessageBox::Ignore)->text(), "Ignorieren"_L1);
-}
-
-void TestQtTexts::fileExplorerHeader()
-{
-    QTranslator dutch;
-    QVERIFY(dutch.load(localeFolder + "/orvanto-nl_NL.qm"_L1));
-    QVERIFY(QCoreApplication::installTranslator(&dutch));
-    const QFileSystemModel model;
-    // Dutch, as the German word is the English one.
-    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), "Naam"_L1);
 }
 
 void TestQtTexts::dockButtons()
