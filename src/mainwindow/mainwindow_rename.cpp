@@ -4,6 +4,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
+#include "mainwindow/explorer.h"
 #include "mainwindow/progressdialog.h"
 #include "platform/filerename.h"
 #include "rules/rulechain.h"
@@ -102,6 +103,7 @@ void MainWindow::on_buttonRename_clicked()
 
 MainWindow::RunResult MainWindow::renameAll(ProgressDialog &dialog)
 {
+    const SelectionKept selection(*explorer, *ui->listWidgetFiles);
     RunResult result;
     while (result.last < ui->listWidgetFiles->count()) {
         if (!renameRow(result.last))
