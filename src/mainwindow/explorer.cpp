@@ -4,6 +4,7 @@
 #include "mainwindow/explorer.h"
 
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/listwidgetfiles.h"
 #include "mainwindow/progressdialog.h"
 
 #include <QApplication>
@@ -34,8 +35,30 @@ Explorer::Explorer(QTreeView *explorerTree, ExplorerModel *explorerModel)
     connect(timer, &QTimer::timeout, this, &Explorer::follow);
     timer->start(shortestPause);
     sinceRefresh.start();
+    connect(model, &ExplorerModel::rowsInserted, this, &Explorer::selectRenamed);
     // What was open before shows what it was then.
     connect(tree, &QTreeView::expanded, model, &ExplorerModel::refresh);
+}
+
+QList<int> Explorer::selectedRows(const ListWidgetFiles &list) const
+{
+    QSet<QString> selected;
+    const QModelIndexList indexes = tree->selectionModel()->selectedIndexes();
+    for (const QModelIndex &index : indexes)
+        selected.insert(model->path(index));
+    QList<int> rows;
+    for (int row = 0; !selected.isEmpty() && row < list.count(); ++row) {
+        if (selected.contains(list.path(row)))
+            rows.append(row);
+    }
+    return rows;
+}
+
+void Explorer::awaitRenamed(const QStringList &paths)
+{
+    awaited = QSet<QString>(paths.begin(), paths.end());
+    pause = 0;
+    timer->start(0s);
 }
 
 void Explorer::follow()
@@ -44,6 +67,7 @@ void Explorer::follow()
     if (isSeen() && !model->isBusy() && sinceRefresh.nsecsElapsed() >= pause) {
         pause = 0;
         sinceRefresh.start();
+        renamed = std::exchange(awaited, {});
         refresh({});
     }
     timer->start(shortestPause);
@@ -66,4 +90,34 @@ void Explorer::refresh(const QModelIndex &folder)
         if (tree->isExpanded(child))
             refresh(child);
     }
+}
+
+void Explorer::selectRenamed(const QModelIndex &folder, int first, int last) const
+{
+    if (renamed.isEmpty())
+        return;
+    const auto at = [&](int row) { return model->index(row, 0, folder); };
+    QItemSelection selection;
+    for (int row = first, begin = first; row <= last; ++row) {
+        if (!renamed.contains(model->path(at(row))))
+            begin = row + 1;
+        else if (row == last || !renamed.contains(model->path(at(row + 1))))
+            selection.select(at(begin), at(row));
+    }
+    tree->selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+SelectionKept::SelectionKept(Explorer &explorerToFollow, const ListWidgetFiles &filesOfTheRun)
+    : explorer(explorerToFollow)
+    , files(filesOfTheRun)
+    , rows(explorer.selectedRows(files))
+{
+}
+
+SelectionKept::~SelectionKept()
+{
+    QStringList paths;
+    for (const int row : std::as_const(rows))
+        paths.append(files.path(row));
+    explorer.awaitRenamed(paths);
 }

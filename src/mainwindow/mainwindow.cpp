@@ -108,7 +108,7 @@ void MainWindow::createExplorer()
     treeExplorer->setUniformRowHeights(true);
     auto *model = new ExplorerModel(this);
     treeExplorer->setModel(model);
-    new Explorer(treeExplorer, model);
+    explorer = new Explorer(treeExplorer, model);
 }
 
 void MainWindow::createRules()

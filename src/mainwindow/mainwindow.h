@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 
+class Explorer;
 class ProgressDialog;
 class QPushButton;
 class QSignalMapper;
@@ -120,6 +121,7 @@ private:
     QSystemTrayIcon *trayIcon = nullptr; ///< null without a system tray
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
+    Explorer *explorer = nullptr;
     QSignalMapper *commandMapper = nullptr; ///< to onClicked()
     QPushButton *buttonLogo = nullptr;
     QAction *actionRestore = nullptr; ///< of the tray's menu

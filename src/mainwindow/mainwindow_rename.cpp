@@ -4,6 +4,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
+#include "mainwindow/explorer.h"
 #include "mainwindow/progressdialog.h"
 #include "rules/rulechain.h"
 #include "run/renamerun.h"
@@ -66,6 +67,7 @@ void MainWindow::on_buttonRename_clicked()
 
 void MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
 {
+    const SelectionKept selection(*explorer, *ui->listWidgetFiles);
     while (run.handled() < ui->listWidgetFiles->count()) {
         const int row = run.handled();
         renameRow(run, row);

@@ -129,6 +129,38 @@ private slots:
         QCOMPARE(explorer()->verticalScrollBar()->value(), 3);
     }
 
+    void renamedFilesStaySelected()
+    {
+        tree->addFiles(u"%1.txt"_s, 6);
+        const QPersistentModelIndex folder = open(tree->path());
+        QTRY_COMPARE(model()->rowCount(folder), 6);
+        const auto select = [&](int row) {
+            explorer()->selectionModel()->select(model()->index(row, 0, folder), QItemSelectionModel::Select);
+        };
+        for (const int row : {1, 2, 5})
+            select(row);
+        // All but the last: of its row nothing changes.
+        window->drop({tree->path(u"000.txt"_s), tree->path(u"001.txt"_s), tree->path(u"002.txt"_s)});
+        window->addInsert(u"new "_s);
+        // While the report is still there.
+        QStringList selected;
+        boxes->beforeAnswer = [&](QMessageBox *) {
+            QTRY_VERIFY(child(folder, u"new 000.txt"_s).isValid());
+            for (const QModelIndex &index : explorer()->selectionModel()->selectedIndexes())
+                selected.append(index.data().toString());
+        };
+        run();
+        selected.sort();
+        QCOMPARE(selected, QStringList({u"005.txt"_s, u"new 001.txt"_s, u"new 002.txt"_s}));
+        // Once: a file of that name that comes later is another one.
+        explorer()->selectionModel()->clear();
+        QVERIFY(QFile::remove(tree->path(u"new 001.txt"_s)));
+        QTRY_VERIFY(!child(folder, u"new 001.txt"_s).isValid());
+        tree->addFile(u"new 001.txt"_s);
+        QTRY_VERIFY(child(folder, u"new 001.txt"_s).isValid());
+        QVERIFY(!explorer()->selectionModel()->hasSelection());
+    }
+
     void changesFromOutsideShowOnceASecondAtMost()
     {
         const QPersistentModelIndex folder = open(tree->path());
