@@ -21,6 +21,8 @@ struct FileIdentity
     qint64 size = 0;
     qint64 modified = 0;
     Kind kind = Kind::File;
+    /// Whether it belongs to this user; true where that is of no account.
+    bool isOwn = true;
 
     /// A number is given again when a file is gone: a time of birth tells them apart where it is kept.
     [[nodiscard]] bool isSameFile(const FileIdentity &other) const

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 namespace {
 
@@ -38,5 +39,6 @@ std::optional<FileIdentity> fileIdentity(const QString &path)
                         .born = (there.stx_mask & STATX_BTIME) != 0 ? nanoseconds(there.stx_btime) : 0,
                         .size = static_cast<qint64>(there.stx_size),
                         .modified = nanoseconds(there.stx_mtime),
-                        .kind = kindOf(there.stx_mode)};
+                        .kind = kindOf(there.stx_mode),
+                        .isOwn = there.stx_uid == geteuid()};
 }

@@ -52,25 +52,25 @@ bool hasFolder(const char *path)
     return stat(folder.c_str(), &there) == 0 && S_ISDIR(there.st_mode);
 }
 
-/// What an error means. The system looks at permissions sometimes before, sometimes after it looks whether
-/// the files are there; here what is there counts first.
+/// What an error means. The system looks at permissions and lengths sometimes before, sometimes after it
+/// looks whether the files are there; here what is there counts first, then how long the name is.
 RenameResult meaningOf(int error, const char *from, const char *to)
 {
+    if (isMissing(from))
+        return RenameResult::SourceMissing;
     switch (error) {
     case EEXIST:
         return RenameResult::TargetExists;
     case ENOENT:
     case ENOTDIR:
-        if (isMissing(from))
-            return RenameResult::SourceMissing;
         // With both folders there it is exFAT's word for a name that it does not take.
         return hasFolder(to) ? RenameResult::BadName : RenameResult::Other;
     case EACCES:
     case EPERM:
     case EROFS:
-        if (isMissing(from))
-            return RenameResult::SourceMissing;
-        return exists(to) ? RenameResult::TargetExists : RenameResult::NotPermitted;
+        if (exists(to))
+            return RenameResult::TargetExists;
+        return errno == ENAMETOOLONG ? RenameResult::TooLong : RenameResult::NotPermitted;
     case EINVAL:
     case EILSEQ:
         return RenameResult::BadName;
@@ -85,9 +85,7 @@ RenameResult meaningOf(int error, const char *from, const char *to)
 RenameResult whyRefused(const char *from, const char *to)
 {
     const int error = errno;
-    if (isMissing(from))
-        return RenameResult::SourceMissing;
-    return exists(to) ? RenameResult::TargetExists : meaningOf(error, from, to);
+    return meaningOf(exists(to) ? EEXIST : error, from, to);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 /// Permission bits count while it lives, even for root, who is somebody without rights for that time.
@@ -32,3 +33,9 @@ public:
 private:
     uid_t user;
 };
+
+/// Lets everyone make files in a folder, and rename their own.
+inline bool makeShared(const QString &folder)
+{
+    return chmod(QFile::encodeName(folder).constData(), 01777) == 0;
+}

@@ -15,3 +15,9 @@ public:
     WithoutPrivileges() {} // NOLINT: a declared constructor keeps its uses from being "unused variables"
     Q_DISABLE_COPY_MOVE(WithoutPrivileges)
 };
+
+/// Folders have no such bit here.
+inline bool makeShared(const QString & /*folder*/)
+{
+    return false;
+}
