@@ -5,6 +5,7 @@
 
 #include <QFile>
 
+#include <cerrno>
 #include <cstdio>
 
 #include <fcntl.h>
@@ -12,13 +13,17 @@
 
 namespace {
 
-/// Whether a link is in the way, of which QFile::rename knows only where it leads: one that leads nowhere is
-/// free for it, and lost where the file system knows neither hard links nor how to refuse.
-bool isLinkInTheWay(const QByteArray &from, const QByteArray &to)
+/// What QFile::rename is not to be asked about. A link in the way, of which it knows only where it leads: one
+/// that leads nowhere is free for it, and lost where the file system knows neither hard links nor how to
+/// refuse. And a place that cannot be looked at, as its name is too long: it would tell the whole path in the
+/// log.
+bool isNothingForQFile(const QByteArray &from, const QByteArray &to)
 {
     struct stat source = {};
     struct stat target = {};
-    if (lstat(to.constData(), &target) != 0 || !S_ISLNK(target.st_mode))
+    if (lstat(to.constData(), &target) != 0)
+        return errno != ENOENT;
+    if (!S_ISLNK(target.st_mode))
         return false;
     // A change of case alone finds the link itself.
     return lstat(from.constData(), &source) != 0 || source.st_dev != target.st_dev ||
@@ -30,8 +35,8 @@ bool isLinkInTheWay(const QByteArray &from, const QByteArray &to)
 std::optional<bool> renameWithoutReplacing(const QString &from, const QString &to)
 {
     // The system would read a name up to its first null character only, and rename another file.
-    if (from.contains(QChar::Null) || to.contains(QChar::Null))
-        return std::nullopt;
+    if (from.isEmpty() || to.isEmpty() || from.contains(QChar::Null) || to.contains(QChar::Null))
+        return false;
     // Half a character would be written as U+FFFD: a name that nobody asked for, or that of another file.
     if (!from.isValidUtf16() || !to.isValidUtf16())
         return false;
@@ -41,7 +46,7 @@ std::optional<bool> renameWithoutReplacing(const QString &from, const QString &t
     if (renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
         return true;
 #endif
-    if (isLinkInTheWay(source, target))
+    if (isNothingForQFile(source, target))
         return false;
     return std::nullopt;
 }
