@@ -4,6 +4,7 @@
 #include "core/settingsstore.h"
 
 #include "core/datapaths.h"
+#include "core/settingselement.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -12,7 +13,6 @@
 #include <QFileInfo>
 #include <QMutex>
 #include <QSaveFile>
-#include <QXmlStreamReader>
 
 #include <optional>
 
@@ -21,8 +21,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
-// The document is walked recursively; a file nested without bound would exhaust the stack.
-constexpr int maxDepth = 100;
 constexpr int indent = 2;
 
 Q_GLOBAL_STATIC(QMutex, accessMutex)
@@ -35,19 +33,10 @@ void ensureConfigFolder()
         folder.mkpath(u"config"_s);
 }
 
-bool isShallow(const QByteArray &xml)
+/// Without the quotes and backslashes that the debug stream puts into texts.
+void report(const char *what, const QString &path)
 {
-    QXmlStreamReader reader(xml);
-    reader.setNamespaceProcessing(false);
-    int depth = 0;
-    while (!reader.atEnd()) {
-        const auto token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement && ++depth > maxDepth)
-            return false;
-        if (token == QXmlStreamReader::EndElement)
-            --depth;
-    }
-    return !reader.hasError();
+    qDebug().noquote().nospace() << what << path;
 }
 
 /// From element on, the first of its following siblings (itself included) whose "id" equals id; null if none.
@@ -116,20 +105,22 @@ void SettingsStore::setFilePath(const QString &path)
 
 void SettingsStore::load()
 {
+    fileIsIgnored = !read() && QFileInfo::exists(filePath);
+}
+
+bool SettingsStore::read()
+{
     QFile file(filePath);
     // Opening a pipe in the file's place would wait for its other end.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > maxFileSize)
-        return;
-    const QByteArray xml = file.readAll();
+        return false;
     QDomDocument loaded;
-    if (!isShallow(xml) || !loaded.setContent(xml))
-        return;
-    const QDomElement newRoot = loaded.firstChildElement(u"Settings"_s);
-    if (newRoot.isNull())
-        return;
-    const QDomElement imported = document.importNode(newRoot, true).toElement();
+    if (!loaded.setContent(settingsElement(file.readAll())))
+        return false;
+    const QDomElement imported = document.importNode(loaded.documentElement(), true).toElement();
     document.replaceChild(imported, root);
     root = imported;
+    return true;
 }
 
 void SettingsStore::save()
@@ -139,14 +130,36 @@ void SettingsStore::save()
     file.setDirectWriteFallback(true);
     // Without a name QSaveFile would open a file with a name of its own.
     if (filePath.isEmpty() || !file.open(QIODevice::WriteOnly)) {
-        qDebug().nospace() << "could not save: " << filePath;
+        report("could not save: ", filePath);
         return;
     }
     const QByteArray xml = document.toByteArray(indent);
     // Committing does not notice when the disk is full for what is still buffered, and an empty file would
     // take the old one's place.
-    if (file.write(xml) < xml.size() || !file.flush() || !file.commit())
-        qDebug().nospace() << "could not save all data in: " << filePath;
+    if (file.write(xml) < xml.size() || !file.flush() || !replaceFile(file))
+        report("could not save all data in: ", filePath);
+}
+
+bool SettingsStore::replaceFile(QSaveFile &file)
+{
+    // Someone may have written it by hand, and want it back.
+    const QString ignored = fileIsIgnored ? QFileInfo(filePath).canonicalFilePath() : QString();
+    const QString kept = ignored + ".bad"_L1;
+    bool isKept = false;
+    if (!ignored.isEmpty()) {
+        QFile::remove(kept);
+        isKept = QFile::rename(ignored, kept);
+    }
+    if (!file.commit()) {
+        if (isKept)
+            QFile::rename(kept, ignored);
+        return false;
+    }
+    if (!ignored.isEmpty())
+        report(isKept ? "could not be read, and is kept as: " : "could not be read, nor kept: ",
+               isKept ? kept : ignored);
+    fileIsIgnored = false;
+    return true;
 }
 
 void SettingsStore::setValue(SettingKey key, const QVariant &value, const QString &id)

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QVariant>
 
+class QSaveFile;
+
 /// The settings that have a number. Deliberate: 8 to 16 stay unassigned.
 enum class SettingKey : int {
     MiscIsFirstStart = 0,
@@ -46,11 +48,13 @@ public:
     void setFilePath(const QString &path);
 
     /// Takes over the first top-level element "Settings" of the file. A file that is missing, unreadable, not
-    /// well-formed, larger than 16 MiB or nested deeper than 100 elements is silently ignored.
+    /// well-formed, larger than 16 MiB or nested deeper than 100 elements, or has no such element, is
+    /// silently ignored.
     void load();
 
     /// Replaces the file as a whole: a reader sees the old file or the new one, at every moment. Where the
-    /// folder allows no replacement the file is written in place. Failures go to the debug channel only.
+    /// folder allows no replacement the file is written in place. What load() ignored is kept beside it then,
+    /// with ".bad" behind its name. Failures, and that, go to the debug channel only.
     void save();
 
     void setValue(SettingKey key, const QVariant &value, const QString &id = {});
@@ -63,8 +67,12 @@ public:
                                        const QString &id = {}) const;
 
 private:
+    bool read();
+    bool replaceFile(QSaveFile &file);
+
     QMap<SettingKey, QString> keyNames;
     QDomDocument document;
     QDomElement root;
     QString filePath;
+    bool fileIsIgnored = false;
 };

@@ -139,6 +139,26 @@ private slots:
         QVERIFY(settingsFile().contains("after"));
     }
 
+    void ignoredSettingsThatCannotBeReplacedStayWhereTheyWere()
+    {
+        SettingsStore *settings = SettingsStore::instance();
+        QFile file(run->settings.tree.path() + u"/config/global.xml");
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+        file.close();
+        settings->load();
+        for (const auto call : {SystemCall::GiveName, SystemCall::Rename})
+            faults->add({.call = call, .part = "/config/", .error = EIO});
+        settings->save();
+        QVERIFY(faults->hits() > 0);
+        QCOMPARE(settingsFile(), "mine");
+        QCOMPARE(run->settings.tree.names(u"config"_s), QStringList(u"global.xml"_s));
+
+        faults->clear();
+        settings->save();
+        QVERIFY(settingsFile().contains("<Settings"));
+        QCOMPARE(run->settings.tree.content(u"config/global.xml.bad"_s), "mine");
+    }
+
     // What a broken disk says when asked to keep it for good changes nothing for those who read it now.
     void settingsOnADiskThatCannotSync()
     {

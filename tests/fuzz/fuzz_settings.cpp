@@ -6,7 +6,9 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QCoreApplication>
+#include <QDomDocument>
 #include <QFile>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 #include <array>
@@ -40,6 +42,67 @@ QStringList valuesOf(const SettingsStore &store)
     values += store.valueByName(u"SupportUsHint"_s, absent).toString();
     values += store.valueByName(u"a.b.c"_s, absent).toString();
     return values;
+}
+
+/// Whether the reader of Qt's document classes, which walk it recursively, can be given it.
+bool isShallow(const QByteArray &xml)
+{
+    QXmlStreamReader reader(xml);
+    int depth = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        depth += reader.isStartElement() ? 1 : reader.isEndElement() ? -1 : 0;
+        if (depth > 100)
+            return false;
+    }
+    return true;
+}
+
+/// Written apart from the program, for files with one top-level element: the text of the settings that were
+/// read.
+QByteArray expectedSettings(const QByteArray &xml)
+{
+    QDomDocument expected;
+    expected.appendChild(
+        expected.createProcessingInstruction(u"xml"_s, u"version=\"1.0\" encoding=\"utf-8\""_s));
+    QDomDocument document;
+    QDomElement root = expected.createElement(u"Settings"_s);
+    root.appendChild(expected.createComment(u"here you can find the global settings"_s));
+    if (document.setContent(xml) && document.documentElement().tagName() == "Settings"_L1)
+        root = expected.importNode(document.documentElement(), true).toElement();
+    root.setAttribute(u"version"_s, QCoreApplication::applicationVersion());
+    expected.appendChild(root);
+    return expected.toByteArray(2);
+}
+
+QByteArray loadedAndSaved(const QString &path, const QByteArray &xml)
+{
+    write(path, xml);
+    SettingsStore store;
+    store.setFilePath(path);
+    store.load();
+    store.save();
+    QFile file(path);
+    FUZZ_VERIFY(file.open(QIODevice::ReadOnly), file.errorString());
+    return file.readAll();
+}
+
+void verifyWhatIsRead(const QString &path, const QByteArray &xml)
+{
+    QDomDocument document;
+    if (!isShallow(xml) || !document.setContent(xml))
+        return;
+    const QByteArray expected = expectedSettings(xml);
+    const QByteArray saved = loadedAndSaved(path, xml);
+    FUZZ_VERIFY(saved == expected, QString::fromUtf8(saved));
+    // Another element beside it, before or behind, changes nothing.
+    const bool isWide = xml.contains('\0');
+    if (document.documentElement().tagName() != "Settings"_L1 || isWide)
+        return;
+    FUZZ_VERIFY(loadedAndSaved(path, xml + "<Other/>") == expected, QString::fromUtf8(expected));
+    if (xml.startsWith("<Settings"))
+        FUZZ_VERIFY(loadedAndSaved(path, "<Other a='>'>&#x416;</Other>\n" + xml) == expected,
+                    QString::fromUtf8(expected));
 }
 
 void verifyRoundTrip(const QString &path, SettingsStore &store)
@@ -84,6 +147,8 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
     // Never deleted: libFuzzer ends the process without leaving main().
     window = new MainWindow(Qt::Window);
     window->initialize();
+    // Settings that cannot be read are told of.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     return 0;
 }
 
@@ -94,7 +159,9 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FuzzInput input(data, size);
     const auto key = static_cast<SettingKey>(input.number(firstKey, lastKey));
     const QString text = input.line();
-    write(path, input.rest());
+    const QByteArray xml = input.rest();
+    verifyWhatIsRead(path, xml);
+    write(path, xml);
     SettingsStore store;
     store.setFilePath(path);
     store.load();

@@ -103,6 +103,12 @@ int link(const char *from, const char *to) noexcept
     return through(SystemCall::Link, from, [&] { return real(from, to); });
 }
 
+int linkat(int fromFolder, const char *from, int toFolder, const char *to, int flags) noexcept
+{
+    static const auto real = original<decltype(&linkat)>("linkat");
+    return through(SystemCall::GiveName, to, [&] { return real(fromFolder, from, toFolder, to, flags); });
+}
+
 int unlink(const char *path) noexcept
 {
     static const auto real = original<decltype(&unlink)>("unlink");

@@ -8,10 +8,10 @@
 #include <string>
 
 /// The system calls through which files are renamed and written.
-enum class SystemCall { RenameNoReplace, Rename, Link, Unlink, Write, Sync };
+enum class SystemCall { RenameNoReplace, Rename, Link, GiveName, Unlink, Write, Sync };
 
-/// What happens to calls about a path that holds the given part: the source of a rename or a link, the file
-/// that is written.
+/// What happens to calls about a path that holds the given part: the source of a rename or a link, the name
+/// that a file without one gets, the file that is written.
 struct Fault
 {
     SystemCall call;

@@ -196,12 +196,14 @@ void TestMessageHandler::messagesOfOtherThreadsComeByTheEventLoop()
 
 void TestMessageHandler::failedSaveReachesTheLog()
 {
-    SettingsStore::instance()->setFilePath(folder->path());
+    // Some quote texts, and put backslashes before the quotes in them.
+    QVERIFY(QDir().mkdir(u"a \"quoted\" name"_s));
+    SettingsStore::instance()->setFilePath(folder->path(u"a \"quoted\" name"_s));
     {
         const LoggedMessages handler;
         SettingsStore::instance()->save();
     }
-    QCOMPARE(takeTexts(), QStringList(u"could not save: "_s + folder->path()));
+    QCOMPARE(takeTexts(), QStringList(u"could not save: "_s + folder->path(u"a quoted name"_s)));
 }
 
 void TestMessageHandler::fatalMessageIsWrittenAndEndsTheProcess()

@@ -5,10 +5,10 @@
 #include "unit/support/testfolder.h"
 
 #include "fileidentity.h"
-#include "filesizelimit.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QStringEncoder>
 #include <QTest>
 
 #include <memory>
@@ -25,6 +25,12 @@ QByteArray nested(int depth)
 {
     return "<Settings><Misc><Language>de_DE</Language></Misc>" + QByteArray("<a>").repeated(depth - 1) +
            QByteArray("</a>").repeated(depth - 1) + "</Settings>";
+}
+
+QByteArray utf16(const QByteArray &xml)
+{
+    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+    return encoder.encode(QString::fromUtf8(xml));
 }
 
 /// A well-formed file of exactly this size.
@@ -62,11 +68,6 @@ private slots:
     void folderInThePlaceOfTheFile();
     void pipeInThePlaceOfTheFile();
     void fileInThePlaceOfTheConfigFolder();
-    void withoutAPathNothingIsSaved();
-    void shortWriteKeepsTheOldFile();
-    void savingThroughALinkKeepsTheLink();
-    void savingKeepsThePermissions();
-    void savingLeavesNothingBeside();
 
 private:
     [[nodiscard]] QString file() const { return folder->path(u"config/global.xml"_s); }
@@ -202,6 +203,37 @@ void TestSettingsFile::readsWhatHandsMayWrite_data()
         << "<?xml version=\"1.0\"?><!--c--><!DOCTYPE Settings><?p i?>" +
                settings("<Language>de_DE</Language>")
         << u"de_DE"_s;
+    QTest::newRow("another element before the root")
+        << "<Other/>" + settings("<Language>de_DE</Language>") << u"de_DE"_s;
+    QTest::newRow("several elements, comments and blanks before the root")
+        << "<?xml version=\"1.0\"?>\r\n<!--c--><Other a=\"b\">&#x416;<Settings/></Other>\n<!--c--> "
+           "<settings/><?p i?>\t" +
+               settings("<Language>de_DE</Language>")
+        << u"de_DE"_s;
+    QTest::newRow("another element behind the root")
+        << settings("<Language>de_DE</Language>") + "<Other/>" << u"de_DE"_s;
+    QTest::newRow("first of several roots counts")
+        << settings("<Language>one</Language>") + settings("<Language>two</Language>") << u"one"_s;
+    QTest::newRow("first of several roots counts, though empty")
+        << "<Settings/>" + settings("<Language>two</Language>") << u"none"_s;
+    QTest::newRow("entity of the document type behind another element")
+        << "<!DOCTYPE s [<!ENTITY e \"de_DE\">]><Other>&e;</Other>" + settings("<Language>&e;</Language>")
+        << u"de_DE"_s;
+    QTest::newRow("Latin-1 that says so, behind another element")
+        << "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?><Other>\xe9</Other>" +
+               settings("<Language>\xe9</Language>")
+        << u"é"_s;
+    QTest::newRow("outside the basic plane, behind another element")
+        << "<Other>\xf0\x9f\x8e\x89</Other>" + settings("<Language>\xf0\x9f\x8e\x89</Language>") << u"🎉"_s;
+    QTest::newRow("UTF-16") << utf16(settings("<Language>Ж</Language>")) << u"Ж"_s;
+    QTest::newRow("UTF-16 behind another element")
+        << utf16("<Other/>" + settings("<Language>Ж</Language>")) << u"Ж"_s;
+    QTest::newRow("byte order mark behind another element")
+        << "\xef\xbb\xbf<Other/>" + settings("<Language>Ж</Language>") << u"Ж"_s;
+    QTest::newRow("element in a verbatim section is text")
+        << "<Other><![CDATA[" + settings("<Language>de_DE</Language>") + "]]></Other>" << u"none"_s;
+    QTest::newRow("one too deep behind another element") << "<Other/>" + nested(101) << u"none"_s;
+    QTest::newRow("deepest behind another element") << "<Other/>" + nested(100) << u"de_DE"_s;
     QTest::newRow("byte order mark") << "\xef\xbb\xbf" + settings("<Language>Ж</Language>") << u"Ж"_s;
     QTest::newRow("Latin-1 that says so")
         << "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>" + settings("<Language>\xe9</Language>")
@@ -236,8 +268,18 @@ void TestSettingsFile::damagedFileGivesDefaultsAndIsReplaced_data()
     QTest::newRow("another letter case")
         << QByteArray(good).replace("<Settings>", "<settings>").replace("</Settings>", "</settings>");
     QTest::newRow("cut off") << good.chopped(12);
-    QTest::newRow("two roots") << "<Other/>" + good;
-    QTest::newRow("more behind the root") << good + "<Other/>";
+    QTest::newRow("text beside the root") << "text" + good;
+    QTest::newRow("text between top-level elements") << "<Other/>text" + good;
+    QTest::newRow("root out of an entity")
+        << "<!DOCTYPE s [<!ENTITY e \"" + QByteArray(good) + "\">]><Other/>&e;";
+    QTest::newRow("verbatim section beside the root") << good + "<![CDATA[ ]]>";
+    QTest::newRow("end tag without a start") << "</Other>" + good;
+    QTest::newRow("end tag before another start") << "<Other/></all>" + good + "<all>";
+    QTest::newRow("end tag behind the root") << good + "</all>";
+    QTest::newRow("second declaration") << "<Other/><?xml version=\"1.0\"?>" + good;
+    QTest::newRow("document type behind an element") << "<Other/><!DOCTYPE Settings>" + good;
+    QTest::newRow("element not closed behind the root") << good + "<Other>";
+    QTest::newRow("unknown encoding") << "<?xml version=\"1.0\" encoding=\"x-none\"?>" + good;
     QTest::newRow("not closed") << QByteArray(good).replace("</Misc>", "");
     QTest::newRow("nested without end") << nested(100000);
     QTest::newRow("opened without end") << "<Settings>" + QByteArray("<a>").repeated(100000);
@@ -357,7 +399,7 @@ void TestSettingsFile::folderInThePlaceOfTheFile()
     QCOMPARE(language(*store), u"none"_s);
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->save();
-    QCOMPARE(catcher.messages(), QStringList(u"could not save: \"%1\""_s.arg(file())));
+    QCOMPARE(catcher.messages(), QStringList(u"could not save: %1"_s.arg(file())));
     QCOMPARE(entriesOf(file()), QStringList(u"inside"_s));
     QCOMPARE(language(*store), u"de_DE"_s);
 }
@@ -382,68 +424,8 @@ void TestSettingsFile::fileInThePlaceOfTheConfigFolder()
     const MessageCatcher catcher;
     store->load();
     store->save();
-    QCOMPARE(catcher.messages(), QStringList(u"could not save: \"%1\""_s.arg(file())));
+    QCOMPARE(catcher.messages(), QStringList(u"could not save: %1"_s.arg(file())));
     QCOMPARE(readFile(u"config"_s), "mine");
-}
-
-void TestSettingsFile::withoutAPathNothingIsSaved()
-{
-    SettingsStore store;
-    const MessageCatcher catcher;
-    store.load();
-    store.save();
-    QCOMPARE(catcher.messages(), QStringList(u"could not save: \"\""_s));
-    QCOMPARE(entriesOf(folder->path()), QStringList(u"config"_s));
-    QVERIFY(entriesOf(folder->path(u"config"_s)).isEmpty());
-}
-
-void TestSettingsFile::shortWriteKeepsTheOldFile()
-{
-    const auto store = newStore();
-    store->save();
-    const QByteArray before = readFile(file());
-    store->setValue(SettingKey::MiscLanguage, QString(100000, u'x'));
-    const MessageCatcher catcher;
-    {
-        const FileSizeLimit limit(1000);
-        store->save();
-    }
-    QCOMPARE(catcher.messages(), QStringList(u"could not save all data in: \"%1\""_s.arg(file())));
-    QCOMPARE(readFile(file()), before);
-    QCOMPARE(entriesOf(folder->path(u"config"_s)), QStringList(u"global.xml"_s));
-}
-
-void TestSettingsFile::savingThroughALinkKeepsTheLink()
-{
-    const QString target = folder->path(u"elsewhere.xml"_s);
-    QVERIFY(writeFile(target, "<Settings><Misc><Language>de_DE</Language></Misc></Settings>"));
-    QVERIFY(QFile::link(target, file()));
-    const auto store = newStore();
-    store->load();
-    QCOMPARE(language(*store), u"de_DE"_s);
-    store->setValue(SettingKey::MiscLanguage, u"fr_FR"_s);
-    store->save();
-    QVERIFY(QFileInfo(file()).isSymLink());
-    QVERIFY(readFile(target).contains("fr_FR"));
-}
-
-void TestSettingsFile::savingKeepsThePermissions()
-{
-    const auto store = newStore();
-    store->save();
-    const QFile::Permissions permissions =
-        QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    QVERIFY(QFile::setPermissions(file(), permissions));
-    store->save();
-    QCOMPARE(QFile::permissions(file()), permissions);
-}
-
-void TestSettingsFile::savingLeavesNothingBeside()
-{
-    const auto store = newStore();
-    for (int i = 0; i < 3; ++i)
-        store->save();
-    QCOMPARE(entriesOf(folder->path(u"config"_s)), QStringList(u"global.xml"_s));
 }
 
 QTEST_GUILESS_MAIN(TestSettingsFile)

@@ -167,6 +167,7 @@ void TestFileRename::refusesAnEmptySource()
 {
     const MessageCatcher silence;
     QCOMPARE(renameFile(QString(), folder->path(u"b"_s)), RenameResult::SourceMissing);
+    QCOMPARE(silence.messages(), QStringList());
     QVERIFY(entriesOf(folder->path()).isEmpty());
 }
 
