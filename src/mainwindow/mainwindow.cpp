@@ -78,7 +78,8 @@ void MainWindow::initialize()
     ui->tabWidgetMain->setCurrentIndex(0);
     createMappers();
     setLocale(QLocale(QLocale::system().language(), QLocale::AnyCountry));
-    createTrayIcon();
+    if (!ensureTrayIcon())
+        SettingsStore::instance()->setValue(SettingKey::MiscMinimizeToTrayIcon, false);
     createLogo();
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());

@@ -87,6 +87,8 @@ private:
     void createMappers();
     void createLogo();
     void createTrayIcon();
+    /// False while there is no system tray to show the icon in.
+    [[nodiscard]] bool ensureTrayIcon();
     void retranslateExplorer();
     void adjustToTexts();
     void openLogFolder();
@@ -118,7 +120,10 @@ private:
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned
     QTimer *logTimer = nullptr;
-    QSystemTrayIcon *trayIcon = nullptr; ///< null without a system tray
+    /// Null until there was a system tray.
+    QSystemTrayIcon *trayIcon = nullptr;
+    /// Runs while the window is in the tray; belongs to its icon.
+    QTimer *trayWatch = nullptr;
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     Explorer *explorer = nullptr;

@@ -31,9 +31,10 @@ const QString trayIconHint = u"ShowTrayiconHint"_s;
 const QString supportUsHint = u"SupportUsHint"_s;
 
 constexpr double smallestOpacity = 0.25;
-constexpr int opacitySteps = 4;    // 25 % to 100 %
-constexpr int balloonTime = 60000; // milliseconds
-constexpr int screenEdge = 64;     // pixels of the window that must stay on the desktop
+constexpr int opacitySteps = 4;         // 25 % to 100 %
+constexpr int balloonTime = 60000;      // milliseconds
+constexpr int trayWatchInterval = 1000; // milliseconds
+constexpr int screenEdge = 64;          // pixels of the window that must stay on the desktop
 
 double roundedToTwoDecimals(double value)
 {
@@ -68,10 +69,6 @@ QString supportRequest()
 
 void MainWindow::createTrayIcon()
 {
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        SettingsStore::instance()->setValue(SettingKey::MiscMinimizeToTrayIcon, false);
-        return;
-    }
     trayIcon = new QSystemTrayIcon(QIcon(QPixmap(u":/img/custom/tray_icon.png"_s)), this);
     trayIcon->setToolTip(QCoreApplication::applicationName());
     auto *menu = new QMenu(this);
@@ -81,6 +78,25 @@ void MainWindow::createTrayIcon()
     retranslateTrayMenu();
     trayIcon->setContextMenu(menu);
     connect(trayIcon, &QSystemTrayIcon::activated, this, &MainWindow::onTrayIconActivated);
+
+    trayWatch = new QTimer(trayIcon);
+    trayWatch->setInterval(trayWatchInterval);
+    trayWatch->callOnTimeout(this, [this] {
+        if (QSystemTrayIcon::isSystemTrayAvailable())
+            return;
+        // Nobody could get at the window any more.
+        trayIcon->hide();
+        onRestoreWindow();
+    });
+}
+
+bool MainWindow::ensureTrayIcon()
+{
+    const bool isThere = QSystemTrayIcon::isSystemTrayAvailable();
+    // At the start of a session the program may come before the tray.
+    if (isThere && !trayIcon)
+        createTrayIcon();
+    return isThere;
 }
 
 void MainWindow::retranslateTrayMenu()
@@ -105,6 +121,8 @@ void MainWindow::onRestoreWindow()
     // Deliberate: the same call as on minimising; it makes the native window anew. The icon stays in the tray
     // when the menu restores the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    if (trayWatch)
+        trayWatch->stop();
     if (isMaximized())
         show();
     else
@@ -115,7 +133,7 @@ void MainWindow::onRestoreWindow()
 void MainWindow::minimizeWindow()
 {
     SettingsStore *settings = SettingsStore::instance();
-    if (!settings->value(SettingKey::MiscMinimizeToTrayIcon, false).toBool()) {
+    if (!settings->value(SettingKey::MiscMinimizeToTrayIcon, false).toBool() || !ensureTrayIcon()) {
         showMinimized();
         return;
     }
@@ -128,6 +146,7 @@ void MainWindow::minimizeWindow()
         setWindowState(windowState() & ~Qt::WindowMinimized);
     }
     trayIcon->show();
+    trayWatch->start();
     if (!settings->valueByName(trayIconHint, true).toBool())
         return;
     trayIcon->showMessage(QCoreApplication::applicationName(),

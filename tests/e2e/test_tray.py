@@ -8,8 +8,9 @@ import unittest
 from harness.case import Case
 from harness.mainwindow import MainWindow
 from harness.program import SETTLED, Program
+from harness.settingsdialog import SettingsDialog
 from harness.tray import QUIT, RESTORE, Tray
-from harness.waiting import until
+from harness.waiting import until, until_still
 from harness.xwindows import is_iconic, opacity
 
 
@@ -25,16 +26,22 @@ class TrayCase(Case):
         until(lambda: abs(opacity(self.desktop, number) - expected) < 0.005, f"the opacity {expected}")
 
 
+    def expect_back(self, window):
+        until(lambda: self.program.x_window("Orvanto"), "the main window to be back")
+        until(lambda: window.frame.has("showing") and window.frame.has("active"), "the main window to be active")
+
+    def minimize_to_the_task_bar(self):
+        number = self.program.x_window("Orvanto")
+        self.desktop.run("xdotool", "windowminimize", number)
+        until(lambda: is_iconic(self.desktop, number), "the window to be minimised")
+
+
 class InTheTray(TrayCase):
     tray = True
 
     def start_with_tray(self, **settings):
         window = self.start(Misc__MinimizeToTrayIcon="true", **settings)
         return window, Tray(self.program)
-
-    def expect_back(self, window):
-        until(lambda: self.program.x_window("Orvanto"), "the main window to be back")
-        until(lambda: window.frame.has("showing") and window.frame.has("active"), "the main window to be active")
 
     def test_click_takes_the_icon_away_and_the_menu_keeps_it(self):
         window, tray = self.start_with_tray()
@@ -147,9 +154,7 @@ class InTheTray(TrayCase):
 class WithoutTray(TrayCase):
     def test_minimized_to_the_task_bar_instead(self):
         window = self.start(Misc__MinimizeToTrayIcon="true")
-        number = self.program.x_window("Orvanto")
-        self.desktop.run("xdotool", "windowminimize", number)
-        until(lambda: is_iconic(self.desktop, number), "the window to be minimised")
+        self.minimize_to_the_task_bar()
         window.activate()
         self.close()
         self.assertEqual(self.program.settings()["Misc.MinimizeToTrayIcon"], "false")
@@ -163,6 +168,54 @@ class WithoutTray(TrayCase):
         self.expect_opacity(1)
         self.close()
         self.assertEqual(self.program.settings()["Misc.MinimizeToTrayIcon"], "false")
+
+
+class TrayThatComesAndGoes(TrayCase):
+    """Wherever the tray is, the program always has a window or an icon to get at it."""
+
+    def test_after_the_start(self):
+        window = self.start(Misc__MinimizeToTrayIcon="true")
+        dialog = SettingsDialog(window)
+        self.assertFalse(dialog.box("Minimize to tray icon").has("checked"), "not switched off without a tray")
+        dialog.toggle("Minimize to tray icon")
+        dialog.press("Save")
+        dialog.wait_closed()
+        self.minimize_to_the_task_bar()
+        window.activate()
+
+        self.desktop.start_tray()
+        tray = Tray(self.program)
+        tray.minimize()
+        tray.click()
+        self.expect_back(window)
+        until(lambda: tray.icon() is None, "the icon to go")
+        self.close()
+        self.assertEqual(self.program.settings()["Misc.MinimizeToTrayIcon"], "true")
+
+    def test_gone_before_the_window_goes_there(self):
+        self.desktop.start_tray()
+        window = self.start(Misc__MinimizeToTrayIcon="true")
+        self.desktop.stop_tray()
+        self.minimize_to_the_task_bar()
+        window.activate()
+        self.close()
+        self.assertNotIn("ShowTrayiconHint", self.program.settings(), "a hint at an icon that is not there")
+
+    def test_gone_while_the_window_is_there(self):
+        self.desktop.start_tray()
+        window = self.start(Misc__MinimizeToTrayIcon="true", ShowTrayiconHint="false")
+        tray = Tray(self.program)
+        tray.minimize()
+        self.desktop.stop_tray()
+        self.expect_back(window)
+
+        self.desktop.start_tray()
+        until_still(tray.icon, "the tray")
+        self.assertIsNone(tray.icon(), "the icon came back without the window")
+        tray.minimize()
+        tray.choose(RESTORE)
+        self.expect_back(window)
+        self.close()
 
 
 if __name__ == "__main__":

@@ -18,6 +18,14 @@ READY = "_ORVANTO_E2E_READY"
 PR_SET_PDEATHSIG = 1
 PR_SET_CHILD_SUBREAPER = 36
 _libc = ctypes.CDLL(None, use_errno=True)
+_x11 = ctypes.CDLL("libX11.so.6")
+_x11.XOpenDisplay.restype = ctypes.c_void_p
+_x11.XOpenDisplay.argtypes = [ctypes.c_char_p]
+_x11.XCloseDisplay.argtypes = [ctypes.c_void_p]
+_x11.XInternAtom.restype = ctypes.c_ulong
+_x11.XInternAtom.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_int]
+_x11.XGetSelectionOwner.restype = ctypes.c_ulong
+_x11.XGetSelectionOwner.argtypes = [ctypes.c_void_p, ctypes.c_ulong]
 PASSED_ON = ("PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "TMPDIR", "LD_LIBRARY_PATH")
 
 
@@ -64,9 +72,7 @@ class Desktop:
             self.spawn(["openbox", "--startup", f"xprop -root -format {READY} 8s -set {READY} yes"])
             until(self._window_manager_runs, "the window manager")
         if tray:
-            self.spawn(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
-                        "--expand", "true"])
-            until(self._tray_runs, "the tray")
+            self.start_tray()
 
     def _start_x_server(self, screen):
         reading, writing = os.pipe()
@@ -104,9 +110,24 @@ class Desktop:
     def _window_manager_runs(self):
         return '= "yes"' in self.run("xprop", "-root", READY)
 
+    def start_tray(self):
+        self._tray = self.spawn(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
+                                 "--expand", "true"])
+        until(self._tray_runs, "the tray")
+
+    def stop_tray(self):
+        """Ends the tray at once, as a crash does."""
+        self.kill(self._tray)
+        self._processes.remove(self._tray)
+        until(lambda: not self._tray_runs(), "the tray to go")
+
     def _tray_runs(self):
-        windows = self.run("xwininfo", "-root", "-tree")
-        return "trayer" in windows or '"panel"' in windows
+        """Whether programs would find a tray."""
+        display = _x11.XOpenDisplay(self.env["DISPLAY"].encode())
+        try:
+            return _x11.XGetSelectionOwner(display, _x11.XInternAtom(display, b"_NET_SYSTEM_TRAY_S0", False)) != 0
+        finally:
+            _x11.XCloseDisplay(display)
 
     def spawn(self, command, **options):
         """Starts a process that ends with this desktop, in a process group of its own."""

@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMenu>
+#include <QSystemTrayIcon>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,7 @@ private slots:
     void opacityOutOfRangeBecomesFullAndIsWrittenBack();
     void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
     void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
+    void withoutATrayTheWindowIsMinimizedWhateverTheSettingSays();
     void menuChecksTheEntryBelow_data();
     void menuChecksTheEntryBelow();
 
@@ -113,6 +115,19 @@ void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
     QVERIFY(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isVisible());
     window.close();
     QCOMPARE(SettingsStore::instance()->value(SettingKey::MiscIsFirstStart, {}).toString(), u"false"_s);
+}
+
+void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
+{
+    MainWindow window({});
+    window.initialize();
+    window.show();
+    // Ticked in the settings dialog, or written by another instance.
+    SettingsStore::instance()->setValue(SettingKey::MiscMinimizeToTrayIcon, true);
+    window.minimizeWindow();
+    QVERIFY(window.isVisible());
+    QVERIFY(window.isMinimized());
+    QVERIFY(!window.findChild<QSystemTrayIcon *>());
 }
 
 void MainWindowState::menuChecksTheEntryBelow_data()
