@@ -34,8 +34,8 @@ def read_table(page):
             faults.append(f'{PAGE}: the row of `{room}` must name rooms in backticks, or "nobody".')
         for name in used:
             if name not in may_use:
-                faults.append(f"{PAGE}: `{room}` uses `{name}`, which must have a row above it: arrows point upwards, so "
-                              "that they never run in a circle.")
+                faults.append(f"{PAGE}: `{room}` uses `{name}`, which must have a row above it: arrows point upwards, "
+                              "so that they never run in a circle.")
         may_use[room] = set(used)
     return may_use, faults
 
@@ -55,8 +55,8 @@ def main():
     rooms = sorted(path.name for path in (sources.ROOT / "src").iterdir() if path.is_dir())
     for room in rooms:
         if room not in may_use:
-            problems.append(f"src/{room}/ is no room of the table in {PAGE}: add the line \"| `{room}` | ... |\" with the "
-                            'rooms that it may use, or "nobody".')
+            problems.append(f"src/{room}/ is no room of the table in {PAGE}: add the line \"| `{room}` | ... |\" with "
+                            'the rooms that it may use, or "nobody".')
     lists = {room: sources.ROOT / "src" / room / "CMakeLists.txt" for room in rooms}
     lists = {room: path.read_text(encoding="utf-8") for room, path in lists.items() if path.exists()}
     room_of = {library: room for room, text in lists.items() for library in LIBRARY.findall(text)}
