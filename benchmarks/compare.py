@@ -102,7 +102,8 @@ def plot(target, count, results):
     columns = ", ".join(f"$rows using {index + 2}:xtic(1) title '{title}'" for index, (title, _) in enumerate(results))
     script = "\n".join([
         "set terminal svg size 900,420 font 'DejaVu Sans,12' background 'white'", f"set output '{target}'",
-        "set linetype 1 lc rgb '#6b8299'", "set linetype 2 lc rgb '#b9c4cc'", "set style data histograms", "set style fill solid 0.8 border -1", "set boxwidth 0.9", "set grid ytics",
+        "set linetype 1 lc rgb '#6b8299'", "set linetype 2 lc rgb '#b9c4cc'",
+        "set style data histograms", "set style fill solid 0.8 border -1", "set boxwidth 0.9", "set grid ytics",
         "set xtics rotate by -20",
         f"set title '{count:,} files: microseconds for each file, median of {ROUNDS} rounds'",
         "set yrange [0:*]", "set key left top", "$rows << end", *rows, "end", "plot " + columns])

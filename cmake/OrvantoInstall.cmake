@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
 
-# "cmake --install build/release --prefix ANY" and "cpack -G DEB". The Windows packages are laid out by packaging/windows.
+# "cmake --install build/release --prefix ANY" and "cpack -G DEB". packaging/windows lays out the Windows packages.
 if(WIN32)
     return()
 endif()

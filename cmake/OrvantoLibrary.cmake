@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
 
-# The suffix of the files that hold one operating system's side of src/platform/.
+# The suffix of the files that hold one operating system's side of src/platform/ or src/desktop/.
 if(WIN32)
     set(ORVANTO_SYSTEM windows)
 else()

@@ -13,7 +13,12 @@ endif()
 if(ORVANTO_PRECOMPILE)
     file(CONFIGURE OUTPUT precompiled.cpp CONTENT "")
     add_library(orvanto_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp")
-    target_link_libraries(orvanto_precompiled PRIVATE orvanto_options Qt6::Widgets)
+    # With the macros that all targets have, whatever else they link: the compiler uses it under no others.
+    target_link_libraries(orvanto_precompiled PRIVATE orvanto_options Qt6::Core)
+    foreach(module Gui Widgets)
+        target_include_directories(orvanto_precompiled SYSTEM PRIVATE
+            $<TARGET_PROPERTY:Qt6::${module},INTERFACE_INCLUDE_DIRECTORIES>)
+    endforeach()
     # Not those of Qt Test: they name a macro that is another one for each test.
     target_precompile_headers(orvanto_precompiled PRIVATE
         <QAbstractItemView> <QApplication> <QBoxLayout> <QDialog> <QDir> <QDirIterator> <QFile> <QFileInfo> <QLabel>
@@ -21,7 +26,7 @@ if(ORVANTO_PRECOMPILE)
         <QTimer> <QTreeWidget> <QUrl>)
 endif()
 
-# orvanto_precompiled(target): for targets that use Qt's widgets.
+# orvanto_precompiled(target): for targets that link Qt.
 function(orvanto_precompiled target)
     if(ORVANTO_PRECOMPILE)
         target_precompile_headers(${target} REUSE_FROM orvanto_precompiled)

@@ -4,7 +4,7 @@
 #include "app/application.h"
 
 #include "core/maker.h"
-#include "platform/errorbox.h"
+#include "desktop/errorbox.h"
 
 #include <QByteArray>
 

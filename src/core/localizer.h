@@ -14,9 +14,11 @@ struct LanguageEntry
 {
     QString language;
     QString country;
-    QString fileName; ///< within the locale folder; empty for the built-in English
+    /// Within the locale folder; empty for the built-in English.
+    QString fileName;
     QString iconPath;
-    QString code; ///< for example "de_DE"
+    /// For example "de_DE".
+    QString code;
 };
 
 /// The process-wide translation manager: finds the translations in the folder "locale" beside the program and

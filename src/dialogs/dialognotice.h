@@ -40,5 +40,6 @@ protected:
 private:
     std::unique_ptr<Ui::DialogNotice> ui;
     QTimer *timer;
-    int interval; ///< seconds left
+    /// Seconds left.
+    int interval;
 };

@@ -7,12 +7,12 @@
 #include "core/localizer.h"
 #include "core/maker.h"
 #include "core/settingsstore.h"
+#include "desktop/messagebox.h"
+#include "desktop/shell.h"
 #include "dialogs/faderwidget.h"
 #include "platform/adminrights.h"
 #include "platform/autostart.h"
-#include "platform/shell.h"
 #include "ui_dialogsettings.h"
-#include "update/messagebox.h"
 #include "update/versioncheck.h"
 
 #include <QDesktopServices>

@@ -44,5 +44,6 @@ private:
     QPointer<FaderWidget> fader;
     std::unique_ptr<Ui::DialogStart> ui;
     bool finished = false;
-    QPoint dragPosition; ///< from the frame's top-left corner to the pressed point
+    /// From the frame's top-left corner to the pressed point.
+    QPoint dragPosition;
 };

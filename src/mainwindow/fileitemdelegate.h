@@ -32,6 +32,7 @@ private:
     void followFont(const QFont &font);
 
     QFont font;
-    QList<qint16> characterWidths; ///< by UTF-16 unit, in pixels; -1 where not asked for yet
+    /// By UTF-16 unit, in pixels; -1 where not asked for yet.
+    QList<qint16> characterWidths;
     int widest = 0;
 };

@@ -66,16 +66,17 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last) override;
 
 private:
-    mutable std::optional<QSet<QString>>
-        knownPaths; ///< empty while nobody has asked since a path changed or went
+    /// Empty while nobody has asked since a path changed or went.
+    mutable std::optional<QSet<QString>> knownPaths;
 
     FileItemDelegate *delegate;
     QTimer layoutTimer;
     QElapsedTimer sinceLayout;
     bool handlesDrop = false;
     bool layoutRequested = false;
-    qint64 layoutCost = 0; ///< of the last layout, in nanoseconds
-    int firstAddedRow =
-        -1; ///< rows from here to lastAddedRow are not known to the base class yet; -1: all are
+    /// Of the last layout, in nanoseconds.
+    qint64 layoutCost = 0;
+    /// Rows from here to lastAddedRow are not known to the base class yet; -1: all are.
+    int firstAddedRow = -1;
     int lastAddedRow = -1;
 };

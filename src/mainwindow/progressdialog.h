@@ -18,7 +18,8 @@ class ProgressDialog final : public QDialog
 
 public:
     enum Page { ProgressPage, TextPage };
-    static constexpr int progressMode = 1; ///< any other mode is text mode
+    /// Any other mode is text mode.
+    static constexpr int progressMode = 1;
 
     /// Shows the progress page; mode and total are the user's to set.
     explicit ProgressDialog(QWidget *parent);
@@ -30,7 +31,8 @@ public:
     void showValue(int percent);
 
     int mode = 0;
-    int current = 0; ///< the item last reported
+    /// The item last reported.
+    int current = 0;
     int total = 0;
     QPushButton *buttonCancel;
     QLabel *labelText;

@@ -5,7 +5,7 @@
 
 #include "core/maker.h"
 #include "core/settingsstore.h"
-#include "update/messagebox.h"
+#include "desktop/messagebox.h"
 
 #include <QCoreApplication>
 #include <QDate>

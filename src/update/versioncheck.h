@@ -31,8 +31,10 @@ public:
 
     struct Service
     {
-        QUrl address;                        ///< scheme, host and port; the path is always "/"
-        std::chrono::milliseconds replyTime; ///< long: a slow service is no broken one
+        /// Scheme, host and port; the path is always "/".
+        QUrl address;
+        /// Long: a slow service is no broken one.
+        std::chrono::milliseconds replyTime;
     };
     /// The service that checks made from now on ask.
     static Service &service();

@@ -19,10 +19,14 @@ namespace {
 enum Kind {
     Ext4 = 1,
     Tmpfs = 2,
-    Ntfs = 4,     ///< ignores case; knows hard links, no rename without replacing
-    Exfat = 8,    ///< ignores case; knows neither, and gives each spelling of a name a number of its own
-    Vfat = 16,    ///< ignores case
-    Casefold = 32 ///< ext4; ignores case and how accents are composed
+    /// Ignores case; knows hard links, no rename without replacing.
+    Ntfs = 4,
+    /// Ignores case; knows neither, and gives each spelling of a name a number of its own.
+    Exfat = 8,
+    /// Ignores case.
+    Vfat = 16,
+    /// Ext4; ignores case and how accents are composed.
+    Casefold = 32
 };
 constexpr int sensitive = Ext4 | Tmpfs;
 constexpr int insensitive = Ntfs | Exfat | Vfat | Casefold;

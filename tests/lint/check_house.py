@@ -7,12 +7,29 @@ import re
 import sources
 
 MAX_LINES = 500
+# As .editorconfig says; clang-format sees to C++.
+MAX_COLUMNS = 120
+SCRIPT_FOLDERS = ".ci .github benchmarks cmake packaging resources src tests tools translations".split()
+SYSTEM_ROOMS = (("src", "platform"), ("src", "desktop"))
 SYSTEM_SWITCH = re.compile(r"^\s*#\s*(if|ifdef|ifndef|elif).*(Q_OS_|_WIN32|__linux__)", re.MULTILINE)
 UNFINISHED = re.compile(r"\b(TODO|FIXME|XXX)\b")
 SKIP = re.compile(r"\bQSKIP\b|\bGTEST_SKIP\b")
 FIXED_WAIT = re.compile(r"\bqWait\(\s*\d|\bqSleep\(")
 
+
+
+def is_script(path):
+    """Whether it is written by hand for an interpreter: Python, shell, CMake or a workflow."""
+    if path.suffix:
+        return path.suffix in (".py", ".sh", ".cmake", ".yml") or path.name == "CMakeLists.txt"
+    return (sources.ROOT / path).is_file() and (sources.ROOT / path).read_bytes().startswith(b"#!")
+
+
 problems = []
+for path in filter(is_script, sources.files(SCRIPT_FOLDERS, {".py", ".sh", ".cmake", ".yml", ".txt", ""})):
+    for number, line in enumerate((sources.ROOT / path).read_text(encoding="utf-8").splitlines(), 1):
+        if len(line) > MAX_COLUMNS:
+            problems.append(f"{path}:{number}: {len(line)} columns. Break the line; {MAX_COLUMNS} are the limit.")
 checked = sources.files(["src", "tests", "benchmarks"], {".cpp", ".h"})
 for path in checked:
     text = (sources.ROOT / path).read_text()
@@ -21,8 +38,9 @@ for path in checked:
         problems.append(f"{path}: begin with the two SPDX lines, as the other files do.")
     if lines > MAX_LINES:
         problems.append(f"{path}: {lines} lines. Split it by concern; {MAX_LINES} are the limit.")
-    if SYSTEM_SWITCH.search(text) and path.parts[:2] != ("src", "platform"):
-        problems.append(f"{path}: asks for the operating system. Put the difference behind a header of src/platform/.")
+    if SYSTEM_SWITCH.search(text) and path.parts[:2] not in SYSTEM_ROOMS:
+        problems.append(f"{path}: asks for the operating system. Put the difference behind a header of src/platform/ "
+                        "or src/desktop/.")
     if UNFINISHED.search(text):
         problems.append(f"{path}: holds a mark for unfinished work. Finish it or open an issue.")
     if path.parts[0] == "tests" and SKIP.search(text):

@@ -32,6 +32,6 @@ checked = [path for folder in sys.argv[1:] for path in sorted(pathlib.Path(folde
 for path in checked:
     section = subprocess.run(["readelf", "--dynamic", "--wide", path], capture_output=True, text=True, check=True)
     for entry in RUN_PATH.findall(section.stdout):
-        problems.append(f'{path}: has the run path "{entry}". CMakeLists.txt switches run paths off; if the build makes '
-                        "this file no more, remove it.")
+        problems.append(f'{path}: has the run path "{entry}". CMakeLists.txt switches run paths off; if the build '
+                        "makes this file no more, remove it.")
 sources.finish(problems, len(checked))

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
-"""Compiles the Windows side of src/platform/ against the Win32 headers, without building anything.
+"""Compiles the Windows side of src/ against the Win32 headers, without building anything.
 
 Qt's headers of this machine do: they look at the compiler, and that one says Windows. Linking and running need
 a Qt for Windows: packaging/windows/build makes one.

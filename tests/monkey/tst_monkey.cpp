@@ -46,11 +46,12 @@ private:
     std::unique_ptr<TempTree> tree;
     std::unique_ptr<DrivenWindow> window;
     std::unique_ptr<QTranslator> translator;
-    QMap<QByteArray, QString> planted; ///< what is in a file, and its folder
+    /// What is in a file, and its folder.
+    QMap<QByteArray, QString> planted;
     QEventLoop loop;
     int actionsLeft = 0;
-    int depth =
-        0; ///< of actions that are in hand: a click that opens a dialog lasts until the dialog is gone
+    /// Of actions that are in hand: a click that opens a dialog lasts until the dialog is gone.
+    int depth = 0;
     bool closed = false;
     QMap<QString, int> did;
 

@@ -16,12 +16,18 @@ struct Fault
 {
     SystemCall call;
     std::string part;
-    int error = 0;      ///< errno of the failure; 0 lets the call through
-    int skipped = 0;    ///< so many calls go through first
-    int times = -1;     ///< so many fail; -1: all
-    int delay = 0;      ///< milliseconds that the call takes longer
-    bool done = false;  ///< what was asked for is done before the failure is told
-    long long room = 0; ///< so many bytes can still be written before a write fails
+    /// Errno of the failure; 0 lets the call through.
+    int error = 0;
+    /// So many calls go through first.
+    int skipped = 0;
+    /// So many fail; -1: all.
+    int times = -1;
+    /// Milliseconds that the call takes longer.
+    int delay = 0;
+    /// What was asked for is done before the failure is told.
+    bool done = false;
+    /// So many bytes can still be written before a write fails.
+    long long room = 0;
 };
 
 /// While it lives, system calls of the main thread fail as told: Qt and the program come to the functions of

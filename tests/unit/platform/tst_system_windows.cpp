@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "desktop/errorbox.h"
+#include "desktop/shell.h"
+#include "desktop/taskbar.h"
 #include "platform/autostart.h"
-#include "platform/errorbox.h"
 #include "platform/filerename.h"
 #include "platform/osversion.h"
-#include "platform/shell.h"
-#include "platform/taskbar.h"
 #include "platform/userdatafolder.h"
 #include "unit/support/testfolder.h"
 

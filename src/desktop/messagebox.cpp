@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "update/messagebox.h"
+#include "desktop/messagebox.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "platform/errorbox.h"
+#include "desktop/errorbox.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "platform/shell.h"
+#include "desktop/shell.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "platform/taskbar.h"
+#include "desktop/taskbar.h"
 
 #include <windows.h>
 
