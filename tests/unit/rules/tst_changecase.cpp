@@ -152,7 +152,7 @@ void TestChangeCase::extensionOfTooGreatACostIsLikeAnInvalidOne_data()
     QTest::newRow("invalid") << u"(A"_s;
     QTest::newRow("counts of counts") << u"(((A{99}){99}){99}){99}"_s;
     QTest::newRow("counts of something optional") << u"((A?){99}){99}"_s;
-    QTest::newRow("lookaheads within lookaheads") << u"(?=a*(?=a*(?=a*(?=a*(?=A*$)))))"_s;
+    QTest::newRow("lookaheads within lookaheads") << u"(?=A*(?=A*(?=A*c)))A"_s;
     QTest::newRow("nested") << u"("_s.repeated(120) + u'A' + u")"_s.repeated(120);
 }
 
