@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Länge</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Kein gültiges Muster: Es wird nichts ändern.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Dieses Muster würde zu lange dauern: Es wird nichts ändern.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Longitud</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>El patrón no es válido: no cambiará nada.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Este patrón tardaría demasiado: no cambiará nada.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

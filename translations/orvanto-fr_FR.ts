@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Longueur</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Motif non valide : il ne changera rien.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Ce motif prendrait trop de temps : il ne changera rien.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

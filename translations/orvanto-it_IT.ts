@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Lunghezza</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Il modello non è valido: non cambierà nulla.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Questo modello richiederebbe troppo tempo: non cambierà nulla.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>長さ</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>パターンが正しくないため、何も変更されません</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>このパターンは時間がかかりすぎるため、何も変更されません</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Lengte</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Geen geldig patroon: het zal niets wijzigen.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Dit patroon zou te lang duren: het zal niets wijzigen.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

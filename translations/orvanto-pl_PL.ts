@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Długość</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Nieprawidłowy wzorzec: niczego nie zmieni.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Ten wzorzec zająłby zbyt dużo czasu: niczego nie zmieni.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Comprimento</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>O padrão não é válido: não mudará nada.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Este padrão levaria tempo demais: não mudará nada.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

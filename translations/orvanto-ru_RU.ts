@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Длина</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Недопустимый шаблон: он ничего не изменит.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Этот шаблон занял бы слишком много времени: он ничего не изменит.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

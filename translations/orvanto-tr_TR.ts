@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Uzunluk</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Geçerli bir desen değil: hiçbir şeyi değiştirmeyecek.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Bu desen çok uzun sürer: hiçbir şeyi değiştirmeyecek.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

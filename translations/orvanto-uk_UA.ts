@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>Довжина</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>Неприпустимий шаблон: він нічого не змінить.</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>Цей шаблон забрав би забагато часу: він нічого не змінить.</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -655,6 +655,14 @@
         <source>Length</source>
         <translation>长度</translation>
     </message>
+    <message>
+        <source>No valid pattern: it will change nothing.</source>
+        <translation>模式无效：不会更改任何内容。</translation>
+    </message>
+    <message>
+        <source>This pattern would take too long: it will change nothing.</source>
+        <translation>此模式耗时过长：不会更改任何内容。</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

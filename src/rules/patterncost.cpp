@@ -3,105 +3,102 @@
 
 #include "rules/patterncost.h"
 
+#include <QMultiMap>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QStringList>
+
 #include <algorithm>
+#include <cmath>
+#include <ctime>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
+// The longest file name that file systems take.
+constexpr int nameLength = 255;
+constexpr double longestSearch = 50; // milliseconds
 // The engine's parser recurses once per level and overflows a stack of 8 MiB at some 8,000 levels.
 constexpr int maxDepth = 100;
-// The engine reads what is repeated by a count once for each repetition.
-constexpr double maxCharactersRead = 100'000;
-// The longest file name that file systems take.
-constexpr double nameLength = 255;
-// Transitions looked at while one name is searched: some 5 ns each, 100 ns at worst.
-constexpr double maxSteps = 2e8;
-// A count above this is an error to the engine.
+// Each level multiplies the time by the name's length: too much from one trial to the next.
+constexpr int maxLookaheadDepth = 8;
+// A count above this is an error to the engine, and back-references far above it are a crash.
 constexpr int maxCount = 1024;
-// One automaton takes no more lookaheads than this: with more the pattern is invalid, but only after the
-// engine has built each of them.
-constexpr double maxLookaheads = 13;
-// The highest capture that the engine lets a back-reference name. With a number beyond its integers it
-// crashes.
-constexpr int maxBackReference = 14;
-// A back-reference waits, once for each place where it may have begun, until its end is reached.
-constexpr double edgesOfABackReference = 64;
-// Every state carries the captures of its path along.
-constexpr double capturesThatDoubleTheWork = 8;
+// Transitions of the automaton: a tenth of a second and 30 MB to compile.
+constexpr double maxEdges = 100'000;
+// The engine takes 13 lookaheads beside each other, but builds all that there are before it says so.
+constexpr double edgesOfALookahead = maxEdges / 14;
+// States times captures, of which the engine holds 16 bytes each.
+constexpr double maxCaptureCells = 1e7;
+// So many can be looked at for each character of a name in no time. What may look at a name more than once
+// counts as more: loops let a dozen others beside them, lookaheads and back-references none.
+constexpr double fewEdges = 300;
+constexpr double edgesOfALoop = fewEdges - 20;
 
-/// What the engine's automaton for a part of the pattern amounts to. All are numbers of double: no product of
-/// counts overflows them.
+/// What the engine's automaton for a part of the pattern amounts to. No product of counts overflows double.
 struct Part
 {
-    double first = 0;      ///< states that a match may begin with
-    double last = 0;       ///< states that a match may end with
-    double edges = 0;      ///< transitions, those with lookaheads counted by the work of these
-    double length = 0;     ///< characters that a match has at most
-    double head = 0;       ///< work of the lookaheads before each state of first
-    double tail = 0;       ///< work of the lookaheads behind each state of last
-    double skip = 0;       ///< work of the lookaheads where it matches no character
-    double read = 0;       ///< characters read to compile it
-    double lookaheads = 0; ///< of the automaton itself, those that are repeated by a count once for each time
+    double first = 0; ///< states that a match may begin with
+    double last = 0;  ///< states that a match may end with
+    double edges = 1; ///< transitions, and what else takes time to compile
+    double ways = 1;  ///< for anchors to hold where no character is matched
     bool isNullable = true;
 };
 
+constexpr Part state{.first = 1, .last = 1, .isNullable = false};
+
 Part inSequence(const Part &left, const Part &right)
 {
-    Part both;
-    both.edges = left.edges + right.edges + left.last * right.first * (1 + left.tail + right.head);
-    both.first = left.first + (left.isNullable ? right.first : 0);
-    both.last = right.last + (right.isNullable ? left.last : 0);
-    both.head = std::max(left.head, left.isNullable && right.first > 0 ? left.skip + right.head : 0);
-    both.tail = std::max(right.tail, right.isNullable && left.last > 0 ? left.tail + right.skip : 0);
-    both.skip = left.skip + right.skip;
-    both.length = left.length + right.length;
-    both.read = left.read + right.read;
-    both.lookaheads = left.lookaheads + right.lookaheads;
-    both.isNullable = left.isNullable && right.isNullable;
-    return both;
+    return {left.first + (left.isNullable ? right.first : 0), right.last + (right.isNullable ? left.last : 0),
+            left.edges + right.edges + left.last * right.first, left.ways * right.ways,
+            left.isNullable && right.isNullable};
 }
 
 Part eitherOf(const Part &left, const Part &right)
 {
-    Part either;
-    either.first = left.first + right.first;
-    either.last = left.last + right.last;
-    either.edges = left.edges + right.edges;
-    either.length = std::max(left.length, right.length);
-    either.head = std::max(left.head, right.head);
-    either.tail = std::max(left.tail, right.tail);
-    either.skip = left.skip + right.skip;
-    either.read = left.read + right.read;
-    either.lookaheads = left.lookaheads + right.lookaheads;
-    either.isNullable = left.isNullable || right.isNullable;
-    return either;
-}
-
-/// The transitions looked at for a match that begins at one given character.
-double workPerStart(const Part &part)
-{
-    const double rounds = std::min(part.length, nameLength) + 1;
-    return 1 + part.skip + part.first * (1 + part.head) + rounds * (part.edges + part.last * (1 + part.tail));
-}
-
-/// Digits of other scripts are letters to the engine.
-bool isDigit(QChar character)
-{
-    return character >= u'0' && character <= u'9';
+    const bool areNullable = left.isNullable && right.isNullable;
+    return {left.first + right.first, left.last + right.last, left.edges + right.edges,
+            areNullable ? left.ways + right.ways : std::max(left.ways, right.ways),
+            left.isNullable || right.isNullable};
 }
 
 /// Reads a pattern the way the engine's parser does.
-class PatternReader final
+struct PatternReader
 {
-public:
-    explicit PatternReader(QStringView source)
-        : pattern(source)
+    QStringView pattern;
+    qsizetype position = 0;
+    int depth = 0;
+    int lookaheadDepth = 0;
+    int captures = 0;
+    bool isExhausting = false;
+
+    PatternCost cost()
     {
+        const Part all = readAlternatives();
+        check(all);
+        if (isExhausting || captures * all.edges > maxCaptureCells)
+            return PatternCost::Exhausting;
+        return all.edges <= fewEdges ? PatternCost::Small : PatternCost::Unknown;
     }
 
-    [[nodiscard]] bool isTooDeep() const { return tooDeep; }
-    [[nodiscard]] bool hasTooManyLookaheads() const { return tooManyLookaheads; }
-    [[nodiscard]] bool hasTooHighReference() const { return refersTooFar; }
-    [[nodiscard]] int captureCount() const { return captures; }
+    [[nodiscard]] bool isAtEnd() const { return isExhausting || position >= pattern.size(); }
+    [[nodiscard]] QChar next() const { return isAtEnd() ? QChar() : pattern.at(position); }
+    /// Digits of other scripts are letters to the engine.
+    [[nodiscard]] bool isAtDigit() const { return next() >= u'0' && next() <= u'9'; }
+    bool take(QChar character)
+    {
+        const bool isThere = !isAtEnd() && next() == character;
+        position += isThere ? 1 : 0;
+        return isThere;
+    }
+    int readNumber()
+    {
+        int number = 0;
+        for (; isAtDigit(); ++position)
+            number = std::min(number * 10 + pattern.at(position).digitValue(), maxCount);
+        return number;
+    }
 
     Part readAlternatives()
     {
@@ -111,112 +108,91 @@ public:
         return all;
     }
 
-private:
-    [[nodiscard]] bool isAtEnd() const { return tooDeep || position >= pattern.size(); }
-    [[nodiscard]] bool isAt(char16_t character) const
-    {
-        return !isAtEnd() && pattern.at(position) == character;
-    }
-    bool take(char16_t character)
-    {
-        const bool isThere = isAt(character);
-        position += isThere ? 1 : 0;
-        return isThere;
-    }
-
     Part readSequence()
     {
         Part all;
-        while (!isAtEnd() && !isAt(u'|') && !isAt(u')'))
+        while (!isAtEnd() && next() != u'|' && next() != u')')
             all = inSequence(all, readFactor());
         return all;
     }
 
     Part readFactor()
     {
-        const qsizetype begin = position;
-        Part atom = readAtom();
-        atom.read += static_cast<double>(position - begin);
+        const Part atom = readAtom();
         if (take(u'*'))
-            return repeated(atom, 0, maxCount, true);
+            return repeated(atom, 0, 1, true);
         if (take(u'+'))
-            return repeated(atom, 1, maxCount, true);
+            return repeated(atom, 1, 1, true);
         if (take(u'?'))
             return repeated(atom, 0, 1, false);
         if (!take(u'{'))
             return atom;
-        const int least = readCount(0);
+        const int least = readNumber();
         const bool isRange = take(u',');
-        const int most = isRange ? readCount(-1) : least;
+        const bool isLoop = isRange && !isAtDigit();
+        const int most = std::max({least, readNumber(), 1});
         take(u'}');
-        return repeated(atom, least, most < 0 ? maxCount : most, most < 0);
+        return repeated(atom, least, most, isLoop);
     }
 
-    int readCount(int valueWithoutDigits)
+    /// Counts are written out, each further one within the one before it.
+    Part repeated(const Part &part, int least, int most, bool isLoop)
     {
-        int count = valueWithoutDigits;
-        for (; !isAtEnd() && isDigit(pattern.at(position)); ++position)
-            count = std::min(std::max(count, 0) * 10 + pattern.at(position).digitValue(), maxCount);
-        return count;
+        Part all = part;
+        all.edges += isLoop ? part.last * part.first + edgesOfALoop : 0;
+        for (int copy = most; copy > 0; --copy) {
+            if (copy < most)
+                all = inSequence(part, all);
+            all.isNullable = all.isNullable || copy > least;
+        }
+        return all;
     }
 
     Part readAtom()
     {
-        const char16_t character = pattern.at(position++).unicode();
-        switch (character) {
+        switch (pattern.at(position++).unicode()) {
         case u'(':
             return readGroup();
         case u'[':
             skipSet();
-            return state();
+            return state;
         case u'\\':
             return readEscape();
         case u'^':
         case u'$':
             return {};
         default:
-            return state();
+            return state;
         }
     }
 
     Part readGroup()
     {
-        bool isLookahead = false;
-        if (take(u'?'))
-            isLookahead = take(u'=') || take(u'!') || !take(u':');
-        else
-            ++captures;
-        tooDeep = tooDeep || ++depth > maxDepth;
+        const bool isCapture = !take(u'?');
+        const bool isLookahead = !isCapture && (take(u'=') || take(u'!') || !take(u':'));
+        captures += isCapture ? 1 : 0;
+        lookaheadDepth += isLookahead ? 1 : 0;
+        isExhausting = isExhausting || ++depth > maxDepth || lookaheadDepth > maxLookaheadDepth;
         const Part inside = readAlternatives();
-        --depth;
         take(u')');
+        --depth;
+        lookaheadDepth -= isLookahead ? 1 : 0;
         if (!isLookahead)
             return inside;
-        tooManyLookaheads = tooManyLookaheads || inside.lookaheads > maxLookaheads;
-        Part lookahead;
-        lookahead.lookaheads = 1;
-        lookahead.skip = workPerStart(inside);
-        lookahead.read = inside.read;
-        return lookahead;
+        check(inside);
+        return {.edges = inside.edges + edgesOfALookahead};
     }
 
     Part readEscape()
     {
-        if (isAtEnd())
-            return {};
-        const QChar character = pattern.at(position++);
-        if (character == u'b' || character == u'B')
-            return {};
-        Part part = state();
-        if (isDigit(character) && character != u'0') {
-            // A back-reference; what it refers to may be empty.
-            --position;
-            refersTooFar = refersTooFar || readCount(0) > maxBackReference;
-            part.length = nameLength;
-            part.isNullable = true;
-            part.edges = edgesOfABackReference;
+        const bool isAnchor = next() == u'b' || next() == u'B';
+        if (!isAtDigit() || next() == u'0') {
+            ++position;
+            return isAnchor ? Part{} : state;
         }
-        return part;
+        // A back-reference; what it refers to may be empty.
+        isExhausting = isExhausting || readNumber() == maxCount;
+        return {.first = 1, .last = 1, .edges = fewEdges};
     }
 
     void skipSet()
@@ -226,59 +202,79 @@ private:
         do {
             take(u'\\');
             ++position;
-        } while (!isAtEnd() && !isAt(u']'));
+        } while (!isAtEnd() && next() != u']');
         take(u']');
     }
 
-    static Part state()
+    /// Every way in which anchors may hold is kept at every transition, from before it and from behind it.
+    void check(const Part &automaton)
     {
-        Part part;
-        part.first = part.last = part.length = 1;
-        part.isNullable = false;
-        return part;
+        isExhausting = isExhausting || automaton.edges * automaton.ways * automaton.ways > maxEdges;
     }
-
-    /// Counts are written out: least times the part, then each further one within the one before it.
-    static Part repeated(const Part &part, int least, int most, bool isEndless)
-    {
-        Part last = part;
-        if (isEndless) {
-            last.edges += part.last * part.first * (1 + part.tail + part.head);
-            last.length = part.length > 0 ? nameLength : 0;
-        }
-        last.isNullable = part.isNullable || least == 0;
-        const int mandatory = std::max(least - 1, 0);
-        const int optional = isEndless ? 0 : std::max(most - mandatory - 1, 0);
-        Part all;
-        for (int i = 0; i < optional; ++i) {
-            all = inSequence(part, all);
-            all.isNullable = true;
-        }
-        for (int i = 0; i < mandatory; ++i)
-            all = inSequence(part, all);
-        return inSequence(all, last);
-    }
-
-    QStringView pattern;
-    qsizetype position = 0;
-    int depth = 0;
-    int captures = 0;
-    bool tooDeep = false;
-    bool tooManyLookaheads = false;
-    bool refersTooFar = false;
 };
+
+/// Names of the greatest length on which the pattern may take long; the same ones every time.
+QStringList adverseNames(QStringView pattern)
+{
+    static const QRegularExpression notPlain(uR"(\(\?[=!:]|\{[0-9,]*\}|[][(){}*+?|^$.\\])"_s);
+    const QString plain = pattern.left(nameLength).toString().remove(notPlain) + u'a';
+    QString letters = u"a0"_s;
+    for (const QChar character : plain)
+        letters += letters.contains(character) ? QString() : QString(character);
+    QStringList names{plain.repeated(nameLength)};
+    for (const QChar letter : letters.left(12))
+        names << QString(nameLength, letter) << plain.left(nameLength / 3) + QString(nameLength, letter);
+    // Runs of a few letters, and words of such runs that are repeated.
+    QRandomGenerator random(1);
+    for (int i = 0; i < 24; ++i) {
+        const auto first = random.bounded(letters.size());
+        const int kinds = 2 + random.bounded(3);
+        const int longestRun = 1 + random.bounded(8);
+        const int length = i % 3 == 0 ? nameLength : 2 + random.bounded(12);
+        QString word;
+        while (word.size() < length) {
+            const QChar letter = letters.at((first + random.bounded(kinds) * 7) % letters.size());
+            word += QString(1 + random.bounded(longestRun), letter);
+        }
+        names += word.repeated(nameLength);
+    }
+    return names;
+}
 
 } // namespace
 
-bool isAffordablePattern(QStringView pattern)
+PatternCost patternCost(QStringView pattern)
 {
-    PatternReader reader(pattern);
-    const Part whole = reader.readAlternatives();
-    const double steps =
-        nameLength * workPerStart(whole) * (1 + reader.captureCount() / capturesThatDoubleTheWork);
-    if (reader.isTooDeep() || reader.hasTooHighReference())
-        return false;
-    if (reader.hasTooManyLookaheads() || whole.lookaheads > maxLookaheads)
-        return false;
-    return whole.read <= maxCharactersRead && steps <= maxSteps;
+    return PatternReader{pattern}.cost();
+}
+
+bool isQuickEnough(QStringView pattern, const std::function<void(const QString &)> &search)
+{
+    const auto millisecondsFor = [&search](const QString &name) {
+        const std::clock_t start = std::clock();
+        search(name);
+        return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    };
+    QStringList names = adverseNames(pattern);
+    double costBefore = 0.001;
+    int lengthBefore = 1;
+    for (int length = 8;;) {
+        QMultiMap<double, QString> costs;
+        for (const QString &name : std::as_const(names)) {
+            costs.insert(millisecondsFor(name.left(length)), name);
+            // Once more: the processor may have been busy with something else.
+            if (costs.lastKey() > longestSearch && millisecondsFor(name.left(length)) > longestSearch)
+                return false;
+        }
+        if (length == nameLength)
+            return true;
+        const double cost = std::max(costs.lastKey(), 0.001);
+        // The dearer the trials, the fewer of the names go on.
+        names = costs.values().mid(names.size() - std::max(2, static_cast<int>(2 / cost)));
+        const double growth = std::log(cost / costBefore) / std::log(double(length) / lengthBefore);
+        const double room = std::pow(2 * longestSearch / cost, 1 / std::max(growth, 2.0));
+        costBefore = cost;
+        lengthBefore = length;
+        length = std::clamp(int(length * std::min(room, cost < 0.5 ? 1.06 : 1.25)), length + 1, nameLength);
+    }
 }

@@ -32,6 +32,31 @@ QString withFirstLettersUpper(const QString &name)
     return result;
 }
 
+bool isHalf(const QString &name, qsizetype at)
+{
+    const QChar character = name.at(at);
+    if (character.isHighSurrogate())
+        return at + 1 == name.size() || !name.at(at + 1).isLowSurrogate();
+    return character.isLowSurrogate() && (at == 0 || !name.at(at - 1).isHighSurrogate());
+}
+
+/// name after QString::toLower or toUpper. Half a character stays as it is, for a later rule may put the
+/// other half beside it again; QString would write U+FFFD.
+QString converted(const QString &name, QString (*convert)(const QString &))
+{
+    if (name.isValidUtf16())
+        return convert(name);
+    QString result;
+    qsizetype begin = 0;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        if (!isHalf(name, i))
+            continue;
+        result += convert(name.sliced(begin, i - begin)) + name.at(i);
+        begin = i + 1;
+    }
+    return result + convert(name.sliced(begin));
+}
+
 /// name without every match of ".<extension>$". Deliberate: the extension is used unescaped, the dot stands
 /// for any character, and without an extension the name loses its last character.
 QString withoutExtension(const QString &name, const QString &extension)
@@ -94,9 +119,9 @@ QString RuleChangeCase::apply(const RuleData *data, QString name, int /*fileInde
     if (parameters.firstLetters)
         result = withFirstLettersUpper(name);
     else if (parameters.lower)
-        result = name.toLower();
+        result = converted(name, [](const QString &text) { return text.toLower(); });
     else if (parameters.upper)
-        result = name.toUpper();
+        result = converted(name, [](const QString &text) { return text.toUpper(); });
     // Deliberate: the dot comes back even where there was none.
     if (parameters.ignoreExtension)
         result += u'.' + extension;

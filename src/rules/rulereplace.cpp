@@ -3,6 +3,7 @@
 
 #include "rules/rulereplace.h"
 
+#include "rules/patternmark.h"
 #include "rules/ruledata.h"
 
 #include <QCoreApplication>
@@ -68,6 +69,7 @@ RuleWidgetReplace::RuleWidgetReplace(QWidget *parent)
     layout->addWidget(toolButtonRegExp, 1, 2);
     layout->addWidget(labelReplaceWith, 2, 0);
     layout->addWidget(lineEditReplaceWith, 2, 1);
+    patternMark = new PatternMark(lineEditReplaceWhat, toolButtonRegExp);
 }
 
 void RuleWidgetReplace::retranslateUi()
@@ -76,4 +78,5 @@ void RuleWidgetReplace::retranslateUi()
     labelReplaceWith->setText(QCoreApplication::translate("Rules", "Replace with"));
     toolButtonRegExp->setStatusTip(QCoreApplication::translate("Rules", "Regular Expression"));
     toolButtonRegExp->setAccessibleName(toolButtonRegExp->statusTip());
+    patternMark->refresh();
 }

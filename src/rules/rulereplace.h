@@ -6,6 +6,7 @@
 #include "rules/rule.h"
 #include "rules/rulewidget.h"
 
+class PatternMark;
 class QLabel;
 class QLineEdit;
 class QToolButton;
@@ -34,4 +35,5 @@ public:
     QToolButton *toolButtonRegExp;
     QLabel *labelReplaceWhat;
     QLabel *labelReplaceWith;
+    PatternMark *patternMark;
 };

@@ -29,48 +29,18 @@ public:
     /// A name that the file system takes.
     QString fileName()
     {
-        static const QStringList names = {u"a"_s,
-                                          u"A"_s,
-                                          u"aa"_s,
-                                          u"b"_s,
-                                          u"a.txt"_s,
-                                          u"A.TXT"_s,
-                                          u"b.txt"_s,
-                                          u"1"_s,
-                                          u"2"_s,
-                                          u"12"_s,
-                                          u"IMG_0001.JPG"_s,
-                                          u"IMG_0002.JPG"_s,
-                                          u"no dot"_s,
-                                          u"NO DOT"_s,
-                                          u".hidden"_s,
-                                          u".a"_s,
-                                          u"...a"_s,
-                                          u"a."_s,
-                                          u"a.b.c"_s,
-                                          u" a "_s,
-                                          u"a'b"_s,
-                                          u"%1"_s,
-                                          u"%2 %1.txt"_s,
-                                          u"a\nb"_s,
-                                          u"a\\b"_s,
-                                          u"straße.txt"_s,
-                                          u"STRASSE.txt"_s,
-                                          u"é.txt"_s,
-                                          u"e\u0301.txt"_s,
-                                          u"日本語.txt"_s,
-                                          u"İi.txt"_s,
-                                          u"😀.txt"_s,
-                                          u"a😀"_s,
-                                          u"😀😀"_s,
-                                          u"ǆ"_s,
-                                          u"ﬁle"_s,
-                                          u"\u200f.txt"_s,
-                                          u"?"_s,
-                                          u"*"_s,
-                                          u"a|b"_s,
-                                          u"[a].txt"_s,
-                                          u"\uFFFD"_s};
+        static const QStringList names = {
+            u"a"_s,           u"A"_s,          u"aa"_s,           u"b"_s,
+            u"a.txt"_s,       u"A.TXT"_s,      u"b.txt"_s,        u"1"_s,
+            u"2"_s,           u"12"_s,         u"IMG_0001.JPG"_s, u"IMG_0002.JPG"_s,
+            u"no dot"_s,      u"NO DOT"_s,     u".hidden"_s,      u".a"_s,
+            u"...a"_s,        u"a."_s,         u"a.b.c"_s,        u" a "_s,
+            u"a'b"_s,         u"%1"_s,         u"%2 %1.txt"_s,    u"a\nb"_s,
+            u"a\\b"_s,        u"straße.txt"_s, u"STRASSE.txt"_s,  u"é.txt"_s,
+            u"e\u0301.txt"_s, u"日本語.txt"_s, u"İi.txt"_s,       u"😀.txt"_s,
+            u"a😀"_s,          u"😀😀"_s,         u"A🎉.TXT"_s,       u"\U00010400b"_s,
+            u"ǆ"_s,           u"ﬁle"_s,        u"\u200f.txt"_s,   u"?"_s,
+            u"*"_s,           u"a|b"_s,        u"[a].txt"_s,      u"\uFFFD"_s};
         if (chance(80))
             return oneOf(names);
         if (chance(50))
@@ -109,9 +79,9 @@ private:
 
     QString insertedText()
     {
-        static const QStringList texts = {QString(), u"x"_s,    u"a"_s,   u"."_s,  u".."_s,
-                                          u"/"_s,    u"sub/"_s, u"../"_s, u"./"_s, u"nowhere/"_s,
-                                          u"sub"_s,  u"é"_s,    u"😀"_s,   u" "_s,  u"'%1'"_s};
+        static const QStringList texts = {QString(), u"x"_s,   u"a"_s,    u"."_s,         u".."_s,  u"/"_s,
+                                          u"sub/"_s, u"../"_s, u"./"_s,   u"nowhere/"_s,  u"sub"_s, u"é"_s,
+                                          u"😀"_s,    u" "_s,   u"'%1'"_s, u"\U00010428"_s};
         return chance(5) ? u"y"_s.repeated(200) : oneOf(texts);
     }
 
@@ -122,8 +92,9 @@ private:
         static const QStringList patterns = {QString(), u"."_s,      u".*"_s,     u"^."_s, u".$"_s,
                                              u"\\d+"_s, u"(.)(.)"_s, u"[ab]"_s,   u"["_s,  u"(a"_s,
                                              u"\\."_s,  u"a|b"_s,    u"\\..*$"_s, u"x+"_s, u"\\s"_s};
-        static const QStringList results = {QString(), QString(), u"a"_s, u"b"_s,    u"\\2\\1"_s, u"\\1"_s,
-                                            u"/"_s,    u"."_s,    u"_"_s, u"sub/"_s, u"ß"_s};
+        static const QStringList results = {QString(),   QString(), u"a"_s, u"b"_s,
+                                            u"\\2\\1"_s, u"\\1"_s,  u"/"_s, u"."_s,
+                                            u"_"_s,      u"sub/"_s, u"ß"_s, u"\U00010400"_s};
         const bool regExp = chance(50);
         window.addReplace(oneOf(regExp ? patterns : plain), oneOf(results), regExp);
     }

@@ -194,6 +194,21 @@ private slots:
         QCOMPARE(run->contents(), (Contents{{u"😀.txt"_s, "😀.txt"}, {u".xt"_s, "a.txt"}}));
     }
 
+    // Between two rules of a chain a character may be in halves; what counts is the name at its end.
+    void halvesThatComeTogetherAgainAreRenamed()
+    {
+        run->window.drop({run->tree.addFile(u"A\U0001F389.TXT"_s)});
+        run->window.addReplace(QString(), u"-"_s);
+        run->window.addChangeCase(&RuleWidgetChangeCase::radioButtonLower, false);
+        run->run();
+        VERIFY_RUN(*run, 1, 0, {u"A\U0001F389.TXT"_s});
+        QCOMPARE(run->contents(), (Contents{{u"A\U0001F389.TXT"_s, "A\xF0\x9F\x8E\x89.TXT"}}));
+        run->window.addReplace(u"-"_s, QString());
+        run->run();
+        VERIFY_RUN(*run, 1, 1, {});
+        QCOMPARE(run->contents(), (Contents{{u"a\U0001F389.txt"_s, "A\xF0\x9F\x8E\x89.TXT"}}));
+    }
+
     void bytesThatAreNoTextLeadToNoOtherFile_data()
     {
         QTest::addColumn<QByteArray>("name");

@@ -161,6 +161,7 @@ private:
             ++discarded;
             return;
         }
+        checkCharacters();
         AppLog::instance()->clearPending();
         boxes->seen.clear();
         {
@@ -181,6 +182,17 @@ private:
         checkRows(disk);
         renamed += expected->processed;
         refused += expected->failed;
+    }
+
+    /// No rule puts U+FFFD where a character was.
+    void checkCharacters() const
+    {
+        const QStringList paths = window->rowPaths();
+        const QStringList newNames = window->rowTexts();
+        for (int row = 0; row < paths.size(); ++row) {
+            const auto before = QFileInfo(paths.at(row)).fileName().count(QChar::ReplacementCharacter);
+            QVERIFY(newNames.at(row).count(QChar::ReplacementCharacter) <= before);
+        }
     }
 
     /// After a run every row shows the name in its path.

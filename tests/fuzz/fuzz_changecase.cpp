@@ -19,14 +19,28 @@ QString extensionOf(const QString &name)
     return dot < 0 ? QString() : fileName.mid(dot + 1);
 }
 
+/// Character by character, and half a character as it is.
+template <typename Convert>
+QString converted(const QString &text, const Convert &convert)
+{
+    QString result;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        QString character = text.at(i);
+        if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
+            character += text.at(++i);
+        result += character.isValidUtf16() ? convert(character) : character;
+    }
+    return result;
+}
+
 /// Whether result is what the choice makes of the text. Capitals at the beginning of words are checked only
 /// for being the same letters.
 bool isCaseOf(const QString &result, const QString &text, int choice)
 {
     if (choice == 1)
-        return result == text.toUpper();
+        return result == converted(text, [](const QString &part) { return part.toUpper(); });
     if (choice == 2)
-        return result == text.toLower();
+        return result == converted(text, [](const QString &part) { return part.toLower(); });
     if (choice == 3)
         return result.isEmpty();
     return std::equal(result.begin(), result.end(), text.begin(), text.end(),

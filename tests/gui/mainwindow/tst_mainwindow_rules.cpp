@@ -285,6 +285,15 @@ private slots:
         QCOMPARE(window->currentRule(), 0);
     }
 
+    void removeInTheMiddleMovesTheSelectionUp()
+    {
+        addThreeRules();
+        window->selectRule(1);
+        window->click("buttonRuleListRemove");
+        QCOMPARE(window->rules(), insertRules(u"ac"_s));
+        QCOMPARE(window->currentRule(), 0);
+    }
+
     void upAndDownMoveTheRuleAndItsSelection()
     {
         window->click("buttonPreview");

@@ -44,6 +44,8 @@ private slots:
     void extensionOfTooGreatACostIsLikeAnInvalidOne();
     void nameWithoutDotLosesItsLastCharacterAndGetsADot_data();
     void nameWithoutDotLosesItsLastCharacterAndGetsADot();
+    void keepsHalvesOfCharacters_data();
+    void keepsHalvesOfCharacters();
     void letterOutsideLatin1CountsAsNoLetter_data();
     void letterOutsideLatin1CountsAsNoLetter();
     void lowerGoesBeforeUpperAndFirstLettersBeforeBoth();
@@ -150,7 +152,7 @@ void TestChangeCase::extensionOfTooGreatACostIsLikeAnInvalidOne_data()
     QTest::newRow("invalid") << u"(A"_s;
     QTest::newRow("counts of counts") << u"(((A{99}){99}){99}){99}"_s;
     QTest::newRow("counts of something optional") << u"((A?){99}){99}"_s;
-    QTest::newRow("lookaheads within lookaheads") << u"(?=a*(?=a*(?=a*(?=a*(?=A*$)))))"_s;
+    QTest::newRow("lookaheads within lookaheads") << u"(?=A*(?=A*(?=A*c)))A"_s;
     QTest::newRow("nested") << u"("_s.repeated(120) + u'A' + u")"_s.repeated(120);
 }
 
@@ -179,6 +181,34 @@ void TestChangeCase::nameWithoutDotLosesItsLastCharacterAndGetsADot()
     QFETCH(QString, name);
     QFETCH(int, chosen);
     QTEST(applied(rule, parametersFor(chosen, true), name), "expected");
+}
+
+// A rule before this one parted a character, and one behind it may join its halves again.
+void TestChangeCase::keepsHalvesOfCharacters_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("chosen");
+    QTest::addColumn<QString>("expected");
+
+    const QString parted = u"-A-\xD83C-\xDF89-.-t-"_s;
+    QTest::newRow("lower") << parted << int(Lower) << u"-a-\xD83C-\xDF89-.-t-"_s;
+    QTest::newRow("upper") << parted << int(Upper) << u"-A-\xD83C-\xDF89-.-T-"_s;
+    QTest::newRow("first letters") << parted << int(FirstLetters) << u"-A-\xD83C-\xDF89-.-T-"_s;
+    QTest::newRow("at the start") << u"\xDF89_A"_s << int(Lower) << u"\xDF89_a"_s;
+    QTest::newRow("at the end") << u"A\xD83C"_s << int(Lower) << u"a\xD83C"_s;
+    QTest::newRow("in the wrong order") << u"A\xDF89\xD83CZ"_s << int(Lower) << u"a\xDF89\xD83Cz"_s;
+    QTest::newRow("beside whole characters")
+        << u"\xD801\xD801\xDC28\xDC28ß"_s << int(Upper) << u"\xD801\xD801\xDC00\xDC28SS"_s;
+    QTest::newRow("alone") << u"\xD83C"_s << int(Lower) << u"\xD83C"_s;
+}
+
+void TestChangeCase::keepsHalvesOfCharacters()
+{
+    QFETCH(QString, name);
+    QFETCH(int, chosen);
+    QTEST(applied(rule, parametersFor(chosen, false), name), "expected");
+    QFETCH(QString, expected);
+    QCOMPARE(applied(rule, parametersFor(chosen, true), name + u".X\xD83C"_s), expected + u".X\xD83C"_s);
 }
 
 void TestChangeCase::letterOutsideLatin1CountsAsNoLetter_data()

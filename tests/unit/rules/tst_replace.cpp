@@ -4,8 +4,13 @@
 #include "rules/rulereplace.h"
 #include "unit/support/editors.h"
 
+#include <QAction>
 #include <QLineEdit>
+#include <QTimer>
 #include <QToolButton>
+
+#include <algorithm>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +24,18 @@ ReplaceParameters literal(const QString &what, const QString &with)
 ReplaceParameters pattern(const QString &what, const QString &with)
 {
     return {what, with, true, RegExp(what)};
+}
+
+/// The tool tip of the field and of the mark in it; empty without a mark.
+QString markOf(const QLineEdit *edit)
+{
+    const QList<QAction *> marks = edit->actions();
+    if (marks.isEmpty())
+        return edit->toolTip().isEmpty() ? QString() : u"no mark"_s;
+    const bool isWhole = marks.size() == 1 && !marks.constFirst()->icon().isNull() &&
+                         marks.constFirst()->toolTip() == edit->toolTip() &&
+                         edit->accessibleDescription() == edit->toolTip();
+    return isWhole ? edit->toolTip() : u"another mark"_s;
 }
 
 } // namespace
@@ -44,6 +61,11 @@ private slots:
     void editorStartsWithItsInitialValues();
     void editorLaysOutItsWidgets();
     void editorFollowsTheLanguage();
+    void markTellsThatAPatternChangesNothing_data();
+    void markTellsThatAPatternChangesNothing();
+    void plainTextsHaveNoMark();
+    void markWaitsForAPauseInTyping();
+    void markFollowsTheLanguage();
     void createDataReadsTheEditor();
     void createDataWithoutAnEditorIsNull();
 
@@ -261,6 +283,87 @@ void TestReplace::editorFollowsTheLanguage()
     }
     QCoreApplication::processEvents();
     QCOMPARE(typed->toolButtonRegExp->statusTip(), u"Regular Expression"_s);
+}
+
+void TestReplace::markTellsThatAPatternChangesNothing_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("toolTip");
+
+    QTest::newRow("invalid") << u"img(_"_s << u"No valid pattern: it will change nothing."_s;
+    QTest::newRow("slow") << u"(a*){200}b"_s
+                          << u"This pattern would take too long: it will change nothing."_s;
+    QTest::newRow("usable") << u"a(b)"_s << QString();
+    QTest::newRow("empty") << QString() << QString();
+}
+
+void TestReplace::markTellsThatAPatternChangesNothing()
+{
+    QFETCH(QString, pattern);
+    QFETCH(QString, toolTip);
+    const std::unique_ptr<QWidget> widget(rule.createEditor(nullptr));
+    const auto *editor = qobject_cast<const RuleWidgetReplace *>(widget.get());
+    QLineEdit *what = editor->lineEditReplaceWhat;
+    what->setText(pattern);
+    QCOMPARE(markOf(what), QString());
+    editor->toolButtonRegExp->click();
+    QCOMPARE(markOf(what), toolTip);
+    editor->toolButtonRegExp->click();
+    QCOMPARE(markOf(what), QString());
+    // Typed while the button is down.
+    editor->toolButtonRegExp->click();
+    what->setText(u"x"_s);
+    QTRY_COMPARE(markOf(what), QString());
+    what->setText(pattern);
+    QTRY_COMPARE(markOf(what), toolTip);
+    // The rule is what it would be without a mark.
+    const auto parameters = captured<ReplaceParameters>(rule, *editor);
+    QCOMPARE(parameters.replaceWhat, pattern);
+    QVERIFY(parameters.regExp);
+    QVERIFY(editor->lineEditReplaceWith->toolTip().isEmpty());
+}
+
+void TestReplace::plainTextsHaveNoMark()
+{
+    const std::unique_ptr<QWidget> widget(rule.createEditor(nullptr));
+    const auto *editor = qobject_cast<const RuleWidgetReplace *>(widget.get());
+    editor->toolButtonRegExp->click();
+    editor->lineEditReplaceWhat->setText(u"("_s);
+    QTRY_VERIFY(!markOf(editor->lineEditReplaceWhat).isEmpty());
+    editor->toolButtonRegExp->click();
+    QCOMPARE(markOf(editor->lineEditReplaceWhat), QString());
+    // No look at it is due either.
+    editor->lineEditReplaceWhat->setText(u"(("_s);
+    const auto timers = editor->findChildren<QTimer *>();
+    QVERIFY(
+        std::none_of(timers.begin(), timers.end(), [](const QTimer *timer) { return timer->isActive(); }));
+}
+
+// A verdict may take some tenths of a second, and each key makes another pattern.
+void TestReplace::markWaitsForAPauseInTyping()
+{
+    const std::unique_ptr<QWidget> widget(rule.createEditor(nullptr));
+    const auto *editor = qobject_cast<const RuleWidgetReplace *>(widget.get());
+    editor->toolButtonRegExp->click();
+    const std::clock_t start = std::clock();
+    for (int loops = 200; loops < 300; ++loops) {
+        editor->lineEditReplaceWhat->setText(u"(a*){%1}b"_s.arg(loops));
+        QCoreApplication::processEvents();
+    }
+    // Each of them takes a tenth of a second at least.
+    QVERIFY(std::clock() - start < 5 * CLOCKS_PER_SEC);
+    QTRY_VERIFY(!markOf(editor->lineEditReplaceWhat).isEmpty());
+}
+
+void TestReplace::markFollowsTheLanguage()
+{
+    const std::unique_ptr<QWidget> widget(rule.createEditor(nullptr));
+    const auto *editor = qobject_cast<const RuleWidgetReplace *>(widget.get());
+    editor->lineEditReplaceWhat->setText(u"("_s);
+    editor->toolButtonRegExp->click();
+    const BracketTranslator translator;
+    QCoreApplication::processEvents();
+    QCOMPARE(markOf(editor->lineEditReplaceWhat), u"[No valid pattern: it will change nothing.]"_s);
 }
 
 void TestReplace::createDataReadsTheEditor()
