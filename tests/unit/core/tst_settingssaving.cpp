@@ -119,7 +119,7 @@ void TestSettingsSaving::folderWithoutRoomForANewFileHasTheOldOneWritten()
     const auto store = newStore();
     store->save();
     QVERIFY(QFile::setPermissions(file(), everything));
-    const FileIdentity before = identityOf(file());
+    const SeenFile before = identityOf(file());
     QVERIFY(QFile::setPermissions(folder->path(), WithoutPrivileges::readable));
     QVERIFY(QFile::setPermissions(folder->path(u"config"_s), WithoutPrivileges::readable));
     const MessageCatcher catcher;
