@@ -96,7 +96,9 @@ void Explorer::selectRenamed(const QModelIndex &folder, int first, int last) con
 {
     if (renamed.isEmpty())
         return;
-    const auto at = [&](int row) { return model->index(row, 0, folder); };
+    const auto at = [&](int row) {
+        return model->index(row, 0, folder);
+    };
     QItemSelection selection;
     for (int row = first, begin = first; row <= last; ++row) {
         if (!renamed.contains(model->path(at(row))))

@@ -8,8 +8,6 @@
 #include <QFileInfo>
 #include <QStorageInfo>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,20 +19,26 @@ std::vector<ExplorerEntry> entriesOf(const QString &folder)
 {
     const NaturalOrder order;
     SortedItems<ExplorerEntry> entries;
+    const auto add = [&](const QString &name, bool isFolder) {
+        entries.add({name, order.key(name), isFolder});
+    };
     if (folder.isEmpty()) {
         const QFileInfoList roots = QDir::drives();
         for (const QFileInfo &root : roots)
-            entries.add({order.key(root.filePath()), true});
+            add(root.filePath(), true);
     } else {
         QDirIterator found(folder, QDir::AllEntries | QDir::NoDotAndDotDot);
         while (found.hasNext()) {
             found.next();
-            entries.add({order.key(found.fileName()), found.fileInfo().isDir()});
+            add(found.fileName(), found.fileInfo().isDir());
         }
     }
-    std::vector<ExplorerEntry> sorted = entries.take();
-    // A name that changes while a folder is read can be met twice.
-    sorted.erase(std::unique(sorted.begin(), sorted.end()), sorted.end());
+    std::vector<ExplorerEntry> sorted;
+    entries.take([&sorted](ExplorerEntry &&entry) {
+        // A name that changes while the folder is read can be met twice.
+        if (sorted.empty() || !(sorted.back() == entry))
+            sorted.push_back(std::move(entry));
+    });
     return sorted;
 }
 

@@ -12,19 +12,21 @@
 /// A file or folder of the explorer.
 struct ExplorerEntry
 {
-    NaturalKey key;
+    QString name;
+    QCollatorSortKey key;
     bool isFolder = false;
-
-    [[nodiscard]] const QString &name() const { return key.name(); }
 
     friend bool operator==(const ExplorerEntry &left, const ExplorerEntry &right)
     {
-        return left.isFolder == right.isFolder && left.name() == right.name();
+        return left.isFolder == right.isFolder && left.name == right.name;
     }
     /// Folders come first.
     friend bool operator<(const ExplorerEntry &left, const ExplorerEntry &right)
     {
-        return left.isFolder != right.isFolder ? left.isFolder : left.key < right.key;
+        if (left.isFolder != right.isFolder)
+            return left.isFolder;
+        const int order = left.key.compare(right.key);
+        return order < 0 || (order == 0 && left.name < right.name);
     }
 };
 

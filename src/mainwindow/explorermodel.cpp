@@ -23,7 +23,7 @@ constexpr int readerThreads = 4;
 
 ExplorerModel::ExplorerModel(QObject *parent)
     : QAbstractItemModel(parent)
-    , root(std::make_unique<Node>(Node{{NaturalOrder().key({}), true}}))
+    , root(std::make_unique<Node>(Node{{{}, NaturalOrder().key({}), true}}))
     , driveIcon(iconProvider.icon(QFileIconProvider::Drive))
     , folderIcon(iconProvider.icon(QFileIconProvider::Folder))
     , fileIcon(iconProvider.icon(QFileIconProvider::File))
@@ -114,7 +114,7 @@ QVariant ExplorerModel::data(const QModelIndex &index, int role) const
         return icon(node);
     if (role != Qt::DisplayRole && role != Qt::EditRole)
         return {};
-    const QString &name = node->entry.name();
+    const QString &name = node->entry.name;
     // A drive: "C:", and yet "/".
     return name.size() > 1 && name.endsWith(u'/') ? name.chopped(1) : name;
 }
@@ -176,18 +176,18 @@ QModelIndex ExplorerModel::indexOf(const Node *node) const
 QString ExplorerModel::pathOf(const Node *node) const
 {
     if (!node->parent || !node->parent->parent)
-        return node->entry.name();
+        return node->entry.name;
     QString path = pathOf(node->parent);
     if (!path.endsWith(u'/'))
         path += u'/';
-    return path + node->entry.name();
+    return path + node->entry.name;
 }
 
 QIcon ExplorerModel::icon(const Node *node) const
 {
     if (node->entry.isFolder)
         return node->parent->parent ? folderIcon : driveIcon;
-    const QString suffix = QFileInfo(node->entry.name()).suffix().toLower();
+    const QString suffix = QFileInfo(node->entry.name).suffix().toLower();
     QIcon &found = fileIcons[suffix];
     if (found.isNull())
         found = iconProvider.icon(QFileInfo(u"name."_s + suffix));

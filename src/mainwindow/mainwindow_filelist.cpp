@@ -4,9 +4,9 @@
 #include "mainwindow/mainwindow.h"
 
 #include "mainwindow/progressdialog.h"
+#include "run/scan.h"
 #include "ui_mainwindow.h"
 
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QLabel>
@@ -22,7 +22,8 @@ namespace {
 // Ids of the signal mapper; fixed.
 enum FileListCommand { MoveFileUp = 2, MoveFileDown = 3, RemoveFiles = 4 };
 
-constexpr qint64 countInterval = 40; // milliseconds
+constexpr qint64 countInterval = 40;  // milliseconds
+constexpr qint64 longestSilence = 10; // milliseconds
 
 std::unique_ptr<ProgressDialog> createWaitDialog(QWidget *parent, ProgressDialog::Page page)
 {
@@ -98,28 +99,34 @@ QStringList MainWindow::collectFiles(const QString &folder, std::unique_ptr<Prog
     dialog = createWaitDialog(this, ProgressDialog::TextPage);
     dialog->show();
 
-    // Deliberate: without QDir::Hidden and QDir::System.
-    QDir directory(folder + QDir::separator());
-    directory.setFilter(QDir::Files | QDir::NoSymLinks | QDir::NoDot | QDir::NoDotDot);
-    directory.setNameFilters(nameFilters);
-    QDirIterator files(directory, QDirIterator::Subdirectories);
-    QStringList paths;
+    Scan scan(folder, nameFilters);
     const auto showCount = [&] {
-        dialog->labelText->setText(tr("Acquire files") + " : "_L1 + QString::number(paths.size()));
+        dialog->labelText->setText(tr("Acquire files") + " : "_L1 + QString::number(scan.count()));
     };
     QElapsedTimer sinceShown;
-    while (files.hasNext() && !dialog->isHidden()) {
-        paths.append(files.next());
+    QElapsedTimer sinceEvents;
+    sinceEvents.start();
+    while (!dialog->isHidden()) {
+        const Scan::Step step = scan.next();
+        if (step == Scan::Step::End)
+            break;
+        // After each file, and often enough for a click where none is found.
+        if (step == Scan::Step::Passed && !sinceEvents.hasExpired(longestSilence))
+            continue;
         // Every new text lays the dialog out again, which takes longer than finding a file.
-        if (!sinceShown.isValid() || sinceShown.hasExpired(countInterval)) {
+        if (step == Scan::Step::Found && (!sinceShown.isValid() || sinceShown.hasExpired(countInterval))) {
             showCount();
             sinceShown.start();
         }
         QCoreApplication::processEvents();
+        sinceEvents.start();
     }
-    if (!paths.isEmpty())
+    if (scan.count() > 0)
         showCount();
-    return paths;
+    if (scan.foldersLeftOut() > 0)
+        qDebug("folders left out, their paths being too long for the system: %lld",
+               static_cast<long long>(scan.foldersLeftOut()));
+    return scan.takePaths();
 }
 
 void MainWindow::addRow(const QString &path)

@@ -8,8 +8,3 @@ NaturalOrder::NaturalOrder(const QLocale &locale)
 {
     collator.setNumericMode(true);
 }
-
-NaturalKey NaturalOrder::key(const QString &name) const
-{
-    return {collator.sortKey(name), name};
-}

@@ -8,32 +8,9 @@
 #include <QString>
 
 #include <algorithm>
+#include <deque>
 #include <utility>
 #include <vector>
-
-/// A name with its place in the natural order. Keys of one locale can be compared with each other.
-class NaturalKey final
-{
-public:
-    NaturalKey(QCollatorSortKey sortKey, QString name)
-        : collation(std::move(sortKey))
-        , text(std::move(name))
-    {
-    }
-
-    [[nodiscard]] const QString &name() const { return text; }
-
-    friend bool operator<(const NaturalKey &left, const NaturalKey &right)
-    {
-        const int order = left.collation.compare(right.collation);
-        // "a1" and "a01" are alike to the collation, and yet two files.
-        return order < 0 || (order == 0 && left.text < right.text);
-    }
-
-private:
-    QCollatorSortKey collation;
-    QString text;
-};
 
 /// The order in which people expect names: by the alphabet of the locale, and numbers by their value, so that
 /// IMG_2 comes before IMG_10. Not to be used by two threads at once.
@@ -43,7 +20,9 @@ public:
     /// The C locale knows no numbers: it counts as English.
     explicit NaturalOrder(const QLocale &locale = QLocale::system().collation());
 
-    [[nodiscard]] NaturalKey key(const QString &name) const;
+    /// A name's place in the order: what compares below another comes first. "a1" and "a01" have the same
+    /// one.
+    [[nodiscard]] QCollatorSortKey key(const QString &name) const { return collator.sortKey(name); }
 
 private:
     QCollator collator;
@@ -58,37 +37,45 @@ public:
     void add(Item item)
     {
         items.push_back(std::move(item));
-        if (items.size() % runLength == 0)
+        order.push_back(&items.back());
+        if (order.size() % runLength == 0)
             completeRun();
     }
 
-    /// All items so far, in order; none are left.
-    [[nodiscard]] std::vector<Item> take()
+    /// Hands over all items so far, in order; none are left.
+    template <typename Receiver>
+    void take(Receiver receive)
     {
-        std::size_t sorted = items.size() / runLength * runLength;
-        std::stable_sort(at(sorted), items.end());
+        std::size_t sorted = order.size() / runLength * runLength;
+        std::stable_sort(at(sorted), order.end(), comesFirst);
         // Each bit of the number of runs is one sorted stretch, the longest first.
         for (std::size_t length = runLength; sorted > 0; length *= 2) {
             if (sorted & length) {
                 sorted -= length;
-                std::inplace_merge(at(sorted), at(sorted + length), items.end());
+                std::inplace_merge(at(sorted), at(sorted + length), order.end(), comesFirst);
             }
         }
-        return std::exchange(items, {});
+        for (Item *item : order)
+            receive(std::move(*item));
+        order.clear();
+        items.clear();
     }
 
 private:
     static constexpr std::size_t runLength = 1024; // a power of two
 
-    auto at(std::size_t position) { return items.begin() + static_cast<std::ptrdiff_t>(position); }
+    static bool comesFirst(const Item *left, const Item *right) { return *left < *right; }
+    auto at(std::size_t position) { return order.begin() + static_cast<std::ptrdiff_t>(position); }
 
     void completeRun()
     {
-        const std::size_t end = items.size();
-        std::stable_sort(at(end - runLength), items.end());
+        const std::size_t end = order.size();
+        std::stable_sort(at(end - runLength), order.end(), comesFirst);
         for (std::size_t length = runLength; (end & length) == 0; length *= 2)
-            std::inplace_merge(at(end - 2 * length), at(end - length), items.end());
+            std::inplace_merge(at(end - 2 * length), at(end - length), order.end(), comesFirst);
     }
 
-    std::vector<Item> items;
+    std::deque<Item> items;
+    /// Moved instead of the items: a sort key cannot be moved cheaply.
+    std::vector<Item *> order;
 };

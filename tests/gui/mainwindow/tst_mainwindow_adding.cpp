@@ -1,14 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "platform/pathlength.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
 
 #include <QChildEvent>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -255,6 +259,89 @@ private slots:
             QVERIFY(seen.at(i).shown);
             QCOMPARE(seen.at(i).page, 0);
         }
+    }
+
+    void filesOfADroppedFolderComeInNaturalOrder()
+    {
+        const QStringList inOrder = {u"IMG_1.JPG"_s, u"IMG_2.JPG"_s,   u"IMG_10.JPG"_s, u"9/b.txt"_s,
+                                     u"9/c.txt"_s,   u"9/sub/x.txt"_s, u"10/a.txt"_s};
+        for (const int i : {4, 6, 2, 0, 5, 1, 3})
+            tree->addFile(u"folder/"_s + inOrder.at(i));
+        const QString first = tree->addFile(u"z.txt"_s);
+        const QString last = tree->addFile(u"a.txt"_s);
+        window->drop({first, tree->path(u"folder"_s), last});
+        QStringList expected = {first};
+        for (const QString &name : inOrder)
+            expected.append(tree->path(u"folder/"_s + name));
+        QCOMPARE(window->rowPaths(), expected << last);
+    }
+
+    void clickIsAnsweredWhateverMatches_data()
+    {
+        QTest::addColumn<QString>("filter");
+        QTest::newRow("nothing matches") << u"*.nosuch"_s;
+        QTest::newRow("one matches") << u"5000.txt"_s;
+    }
+
+    void clickIsAnsweredWhateverMatches()
+    {
+        QFETCH(QString, filter);
+        tree->addFiles(u"folder/%1.txt"_s, 20000);
+        window->child<QLineEdit>("lineEditFileFilter")->setText(filter);
+        int passes = 0;
+        QElapsedTimer timer;
+        timer.start();
+        {
+            const DuringEvents watch([&](int pass) { passes = pass; });
+            window->drop({tree->path(u"folder"_s)});
+        }
+        // On average: other programs may hold up a single one.
+        const qint64 wait = timer.elapsed() / (passes + 1);
+        QVERIFY2(passes > 0 && wait < 50, qPrintable(u"%1 passes, %2 ms"_s.arg(passes).arg(wait)));
+    }
+
+    void scanWithoutMatchesCanBeCancelled()
+    {
+        tree->addFiles(u"folder/%1.txt"_s, 20000);
+        window->child<QLineEdit>("lineEditFileFilter")->setText(u"*.nosuch"_s);
+        int passes = 0;
+        const DuringEvents watch([&](int pass) {
+            passes = pass;
+            if (pass == 1)
+                clickCancel();
+        });
+        window->drop({tree->path(u"folder"_s)});
+        QCOMPARE(passes, 1);
+        QCOMPARE(window->files()->count(), 0);
+    }
+
+    void foldersBeyondTheLongestPathAreLoggedOnce()
+    {
+        const QString name = QString(200, u'd');
+        tree->addFile(u"folder/a.txt"_s);
+        tree->addFile(u"folder/b.txt"_s);
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(tree->path(u"folder"_s)));
+        QString deepest = tree->path(u"folder"_s);
+        // In relative steps: no call takes the whole path.
+        while (!isPathTooLong(deepest) && QDir().mkdir(name) && QDir::setCurrent(name))
+            deepest += u'/' + name;
+        QVERIFY(QDir::setCurrent(before));
+        static QStringList messages;
+        messages.clear();
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+            if (type == QtDebugMsg)
+                messages.append(text);
+        });
+        window->drop({tree->path(u"folder"_s)});
+        qInstallMessageHandler(nullptr);
+        QCOMPARE(window->files()->count(), 2);
+        QStringList expected;
+        // Windows makes no such folder in the first place.
+        if (isPathTooLong(deepest))
+            expected.append(u"folders left out, their paths being too long for the system: 1"_s);
+        QCOMPARE(messages, expected);
+        std::filesystem::remove_all(tree->path(u"folder"_s).toStdU16String());
     }
 
     void scanCancelledAfterItsFirstFileAddsThatOne()
