@@ -83,6 +83,7 @@ int start(int argc, char **argv)
         {u"rename"_s, window->findChild<QPushButton *>(u"buttonRename"_s)->text()},
         {u"opacity"_s, settings->value(SettingKey::WindowOpacity, 0).toString()},
         {u"language"_s, settings->value(SettingKey::MiscLanguage, u"none"_s).toString()},
+        {u"libraryPaths"_s, QJsonArray::fromStringList(QCoreApplication::libraryPaths())},
         {u"log"_s, QJsonArray::fromStringList(AppLog::instance()->pendingLines())},
     };
     std::puts(QJsonDocument(told).toJson(QJsonDocument::Compact).constData());
@@ -100,6 +101,7 @@ private slots:
     void initTestCase();
     void init();
     void cleanup() { folder.reset(); }
+    void pluginsBesideTheProgramAreFound();
     void launchFolderIsLeftAloneWithoutADataFolder_data();
     void launchFolderIsLeftAloneWithoutADataFolder();
     void afterACrashTheNextStartIsInEnglish();
@@ -155,9 +157,10 @@ private:
 
 void TestStart::initTestCase()
 {
-    // The program looks for its languages beside itself.
-    const QString languages = QCoreApplication::applicationDirPath() + u"/locale";
-    QVERIFY(QDir().mkpath(languages));
+    // The program looks for its languages and plug-ins beside itself; Qt knows folders only that are there.
+    const QString program = QCoreApplication::applicationDirPath();
+    const QString languages = program + u"/locale";
+    QVERIFY(QDir().mkpath(languages) && QDir().mkpath(program + u"/plugins"));
     QFile::remove(languages + u"/orvanto-de_DE.qm");
     QVERIFY(QFile::copy(QStringLiteral(LOCALE_FOLDER "/orvanto-de_DE.qm"), languages + u"/orvanto-de_DE.qm"));
 }
@@ -186,6 +189,13 @@ QJsonObject TestStart::toldBy(QProcess &process)
         process.exitCode() != 0)
         return {};
     return QJsonDocument::fromJson(process.readAllStandardOutput().split('\n').value(0)).object();
+}
+
+void TestStart::pluginsBesideTheProgramAreFound()
+{
+    makeSettings();
+    const QJsonArray paths = toldWith(data()).value("libraryPaths"_L1).toArray();
+    QVERIFY(paths.contains(QDir(QCoreApplication::applicationDirPath() + u"/plugins").canonicalPath()));
 }
 
 void TestStart::launchFolderIsLeftAloneWithoutADataFolder_data()
