@@ -345,7 +345,6 @@ private slots:
         QTest::newRow("up on row 0") << 0 << u"buttonFileListUp"_s;
         QTest::newRow("down on the last row") << 2 << u"buttonFileListDown"_s;
         QTest::newRow("up without a current row") << -1 << u"buttonFileListUp"_s;
-        QTest::newRow("down without a current row") << -1 << u"buttonFileListDown"_s;
         QTest::newRow("remove without a current row") << -1 << u"buttonFileListRemove"_s;
     }
 
@@ -362,6 +361,24 @@ private slots:
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->files()->currentRow(), row);
         QCOMPARE(window->rowTexts(), QStringList({u"spoilt"_s, u"spoilt"_s, u"spoilt"_s}));
+    }
+
+    void downWithoutACurrentRowMakesTheFirstOneCurrent()
+    {
+        // Nothing to make current.
+        window->click("buttonFileListDown");
+        QCOMPARE(window->files()->currentRow(), -1);
+        window->drop(tree->addFiles(u"%1"_s, 3));
+        window->click("buttonPreview");
+        const QStringList paths = window->rowPaths();
+        window->files()->setCurrentRow(-1);
+        spoilRowTexts();
+        window->click("buttonFileListDown");
+        QCOMPARE(window->rowPaths(), paths);
+        QCOMPARE(window->files()->currentRow(), 0);
+        QVERIFY(window->files()->item(0)->isSelected());
+        // As after any other move, the rows are shown anew.
+        QCOMPARE(window->rowTexts(), QStringList({u"000"_s, u"001"_s, u"002"_s}));
     }
 
     void removeDeletesAllSelectedRowsAndKeepsTheRowNumber_data()
