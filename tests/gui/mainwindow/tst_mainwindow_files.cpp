@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/drivenwindow.h"
+#include "support/duringevents.h"
 
 #include "withoutprivileges.h"
 
@@ -142,6 +143,25 @@ private slots:
         QCOMPARE(changed.constFirst().constFirst().value<const QMimeData *>(), &data);
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->rowTexts(), QStringList({u"z.txt"_s, u"a.txt"_s, u"no dot"_s, u".hidden"_s}));
+    }
+
+    void closingTheWindowCutsADropOff()
+    {
+        showActive();
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &path : tree->addFiles(u"%1"_s, 10))
+            urls.append(QUrl::fromLocalFile(path));
+        data.setUrls(urls);
+        {
+            const DuringEvents watch([&](int pass) {
+                if (pass == 3)
+                    window->get()->close();
+            });
+            QVERIFY(dragAndDrop(data));
+        }
+        QCOMPARE(window->rowTexts(), QStringList({u"000"_s, u"001"_s, u"002"_s}));
+        QTRY_VERIFY(window->get()->isHidden());
     }
 
     void dropWithoutUrlsAddsNothing()
@@ -459,6 +479,17 @@ private slots:
         QCOMPARE(window->rowTexts(), QStringList{tree->path(u"folder/xa.txt"_s)});
         window->click("checkBoxShowFullPath");
         QCOMPARE(window->rowTexts(), QStringList{u"xa.txt"_s});
+    }
+
+    // The folder ends with the separator itself: it is shown twice.
+    void fullPathDirectlyBelowTheRootHasTwoSeparators()
+    {
+        const QString root = QFileInfo(u"/"_s).absoluteFilePath();
+        window->drop({root + u"no such file.txt"_s});
+        window->addInsert(u"x"_s);
+        window->click("buttonPreview");
+        window->click("checkBoxShowFullPath");
+        QCOMPARE(window->rowTexts(), QStringList{QDir::toNativeSeparators(root + u"/xno such file.txt"_s)});
     }
 };
 
