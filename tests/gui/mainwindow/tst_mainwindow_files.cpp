@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/drivenwindow.h"
+#include "support/duringevents.h"
 
 #include "withoutprivileges.h"
 
@@ -142,6 +143,25 @@ private slots:
         QCOMPARE(changed.constFirst().constFirst().value<const QMimeData *>(), &data);
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->rowTexts(), QStringList({u"z.txt"_s, u"a.txt"_s, u"no dot"_s, u".hidden"_s}));
+    }
+
+    void closingTheWindowCutsADropOff()
+    {
+        showActive();
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &path : tree->addFiles(u"%1"_s, 10))
+            urls.append(QUrl::fromLocalFile(path));
+        data.setUrls(urls);
+        {
+            const DuringEvents watch([&](int pass) {
+                if (pass == 3)
+                    window->get()->close();
+            });
+            QVERIFY(dragAndDrop(data));
+        }
+        QCOMPARE(window->rowTexts(), QStringList({u"000"_s, u"001"_s, u"002"_s}));
+        QTRY_VERIFY(window->get()->isHidden());
     }
 
     void dropWithoutUrlsAddsNothing()
@@ -345,7 +365,6 @@ private slots:
         QTest::newRow("up on row 0") << 0 << u"buttonFileListUp"_s;
         QTest::newRow("down on the last row") << 2 << u"buttonFileListDown"_s;
         QTest::newRow("up without a current row") << -1 << u"buttonFileListUp"_s;
-        QTest::newRow("down without a current row") << -1 << u"buttonFileListDown"_s;
         QTest::newRow("remove without a current row") << -1 << u"buttonFileListRemove"_s;
     }
 
@@ -362,6 +381,24 @@ private slots:
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->files()->currentRow(), row);
         QCOMPARE(window->rowTexts(), QStringList({u"spoilt"_s, u"spoilt"_s, u"spoilt"_s}));
+    }
+
+    void downWithoutACurrentRowMakesTheFirstOneCurrent()
+    {
+        // Nothing to make current.
+        window->click("buttonFileListDown");
+        QCOMPARE(window->files()->currentRow(), -1);
+        window->drop(tree->addFiles(u"%1"_s, 3));
+        window->click("buttonPreview");
+        const QStringList paths = window->rowPaths();
+        window->files()->setCurrentRow(-1);
+        spoilRowTexts();
+        window->click("buttonFileListDown");
+        QCOMPARE(window->rowPaths(), paths);
+        QCOMPARE(window->files()->currentRow(), 0);
+        QVERIFY(window->files()->item(0)->isSelected());
+        // As after any other move, the rows are shown anew.
+        QCOMPARE(window->rowTexts(), QStringList({u"000"_s, u"001"_s, u"002"_s}));
     }
 
     void removeDeletesAllSelectedRowsAndKeepsTheRowNumber_data()
@@ -442,6 +479,17 @@ private slots:
         QCOMPARE(window->rowTexts(), QStringList{tree->path(u"folder/xa.txt"_s)});
         window->click("checkBoxShowFullPath");
         QCOMPARE(window->rowTexts(), QStringList{u"xa.txt"_s});
+    }
+
+    // The folder ends with the separator itself: it is shown twice.
+    void fullPathDirectlyBelowTheRootHasTwoSeparators()
+    {
+        const QString root = QFileInfo(u"/"_s).absoluteFilePath();
+        window->drop({root + u"no such file.txt"_s});
+        window->addInsert(u"x"_s);
+        window->click("buttonPreview");
+        window->click("checkBoxShowFullPath");
+        QCOMPARE(window->rowTexts(), QStringList{QDir::toNativeSeparators(root + u"/xno such file.txt"_s)});
     }
 };
 

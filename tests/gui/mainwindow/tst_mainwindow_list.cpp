@@ -238,6 +238,46 @@ private slots:
         QVERIFY(everyRowIsLaidOut());
     }
 
+    // Neither the first text nor the last, and wherever it comes from.
+    void rowsAreAsWideAsTheWidestText()
+    {
+        const QString wide(200, u'W');
+        const auto width = [&] {
+            list->doItemsLayout();
+            return list->visualItemRect(list->item(0)).width();
+        };
+        const int wanted = list->fontMetrics().horizontalAdvance(wide);
+        for (const QString &text : {u"a"_s, wide, u"b"_s, u"c"_s})
+            list->appendRow(u"/p/"_s + text, text);
+        QVERIFY(width() >= wanted);
+        // The rows that stay are added anew.
+        list->item(3)->setSelected(true);
+        list->removeSelected();
+        QVERIFY(width() >= wanted);
+        list->layoutLater();
+        for (int row = 0; row < 3; ++row)
+            list->setRowText(row, u"a"_s);
+        QVERIFY(width() < wanted);
+        list->setRowText(1, wide);
+        list->setRowText(2, u"b"_s);
+        QVERIFY(width() >= wanted);
+    }
+
+    void lineBreakInANameIsPaintedAsABlank()
+    {
+        const auto picture = [&](const QString &text) {
+            list->clear();
+            list->appendRow(u"/p/x"_s, text);
+            list->showAddedRows();
+            list->doItemsLayout();
+            return list->viewport()->grab().toImage();
+        };
+        const QImage blank = picture(u"first second"_s);
+        QVERIFY(blank != picture(u"firstsecond"_s));
+        QCOMPARE(picture(u"first\nsecond"_s), blank);
+        QCOMPARE(picture(u"first\u2028second"_s), blank);
+    }
+
     void rowsHeldBackCanBeSelectedMovedAndRemoved()
     {
         add(5000);
