@@ -8,10 +8,17 @@ else()
     set(ORVANTO_SYSTEM unix)
 endif()
 
-# orvanto_library(folder SOURCES ... USES ...): the static library of one folder of src/.
+# A mutation run asks for shared libraries: one that changes is then all there is to link.
+if(BUILD_SHARED_LIBS)
+    set(ORVANTO_LIBRARY_TYPE SHARED)
+else()
+    set(ORVANTO_LIBRARY_TYPE STATIC)
+endif()
+
+# orvanto_library(folder SOURCES ... USES ...): the library of one folder of src/.
 function(orvanto_library folder)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "SOURCES;USES")
-    qt_add_library(orvanto_${folder} STATIC ${ARG_SOURCES})
+    qt_add_library(orvanto_${folder} ${ORVANTO_LIBRARY_TYPE} ${ARG_SOURCES})
     target_link_libraries(orvanto_${folder} PUBLIC orvanto_options ${ARG_USES})
     set_target_properties(orvanto_${folder} PROPERTIES
         AUTOUIC ON

@@ -74,10 +74,12 @@ public:
     }
 
 private:
+    /// In memory where there is such a place; who names a folder for temporary files means it.
     static QString base()
     {
         const QString memory = QStringLiteral("/dev/shm");
-        return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+        const bool isNamed = qEnvironmentVariableIsSet("TMPDIR");
+        return !isNamed && QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
     }
 
     QTemporaryDir folder;

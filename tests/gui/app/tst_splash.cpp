@@ -43,6 +43,33 @@ QImage paintedWith(const QString &text)
     return frame.grab().toImage();
 }
 
+/// What a splash is like at the moment when it is shown: it lives no longer than the call that shows it.
+class ShownSplash final : public QObject
+{
+public:
+    ShownSplash() { QCoreApplication::instance()->installEventFilter(this); }
+
+    int count = 0;
+    bool isBold = false;
+    bool isTranslucent = false;
+    Qt::WindowModality modality = Qt::NonModal;
+    QSize size;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (const auto *frame = dynamic_cast<SplashFrame *>(watched);
+            frame && event->type() == QEvent::Show) {
+            ++count;
+            isBold = frame->font().bold();
+            isTranslucent = frame->testAttribute(Qt::WA_TranslucentBackground);
+            modality = frame->windowModality();
+            size = frame->size();
+        }
+        return false;
+    }
+};
+
 } // namespace
 
 class TestSplash final : public QObject
@@ -54,6 +81,7 @@ private slots:
     void textKeepsItsMargins();
     void lastLineStandsOnTheBottomMargin();
     void imageFillsTheFrame();
+    void isBoldTranslucentAndModal();
     void holdsTheThreadForItsTime();
     void missingImageStillHoldsTheThread();
     void liesOverAnActiveWindow();
@@ -104,6 +132,17 @@ void TestSplash::imageFillsTheFrame()
     const QImage picture = frame.grab().toImage();
     QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::blue));
     QCOMPARE(picture.pixelColor(39, 29), QColor(Qt::blue));
+}
+
+void TestSplash::isBoldTranslucentAndModal()
+{
+    const ShownSplash shown;
+    showSplash(u"Version: 1"_s, whiteImage());
+    QCOMPARE(shown.count, 1);
+    QVERIFY(shown.isBold);
+    QVERIFY(shown.isTranslucent);
+    QCOMPARE(shown.modality, Qt::WindowModal);
+    QCOMPARE(shown.size, imageSize);
 }
 
 void TestSplash::holdsTheThreadForItsTime()
