@@ -6,6 +6,10 @@
 #include <QTest>
 #include <QUrl>
 
+#if defined(QT_GUI_LIB) || defined(QT_XML_LIB)
+#error "A program without windows and settings needs orvanto_core, which is to link Qt Core alone."
+#endif
+
 using namespace Qt::StringLiterals;
 
 class TestMaker final : public QObject

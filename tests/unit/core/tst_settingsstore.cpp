@@ -9,6 +9,10 @@
 
 #include <memory>
 
+#ifdef QT_GUI_LIB
+#error "Settings and log are to be had without windows: orvanto_settings is not to link them."
+#endif
+
 using namespace Qt::StringLiterals;
 
 class TestSettingsStore final : public QObject
