@@ -48,7 +48,9 @@ def mutated(fault, source):
     places = [place for place in _found(fault.text, source, fault) if place[0] >= begin]
     if not places or (len(places) > 1 and not fault.context):
         raise ListError(f'{fault}: "{fault.text}" stands {len(places)} times in {fault.file}.')
-    result = source[: places[0][0]] + fault.replacement + source[places[0][1] :]
+    # A statement that is left out leaves an empty one, else a condition before it would take hold of the next.
+    replacement = fault.replacement or (";" if fault.text.endswith(";") else "")
+    result = source[: places[0][0]] + replacement + source[places[0][1] :]
     if result == source:
         raise ListError(f"{fault}: changes nothing.")
     return result

@@ -21,6 +21,10 @@ class Mutated(unittest.TestCase):
     def test_words_are_whole(self):
         self.assertEqual(faults.mutated(fault("row", "0"), "rows[row] = arrow;"), "rows[0] = arrow;")
 
+    def test_statement_that_is_left_out_leaves_an_empty_one(self):
+        self.assertEqual(faults.mutated(fault("x();", ""), "if (a) x(); y();"), "if (a) ; y();")
+        self.assertEqual(faults.mutated(fault("!a &&", ""), "if (!a && b)"), "if ( b)")
+
     def test_text_that_is_gone(self):
         with self.assertRaisesRegex(faults.ListError, 'list.txt:1: title: "x" stands 0 times in src/x.cpp'):
             faults.mutated(fault("x", ""), "y")
@@ -30,7 +34,7 @@ class Mutated(unittest.TestCase):
             faults.mutated(fault("x;", ""), "x; x;")
 
     def test_first_place_behind_the_context(self):
-        self.assertEqual(faults.mutated(fault("x;", "", "f()"), "x; f() { x; x; }"), "x; f() {  x; }")
+        self.assertEqual(faults.mutated(fault("x;", "y;", "f()"), "x; f() { x; x; }"), "x; f() { y; x; }")
 
     def test_context_must_be_found_once(self):
         for source in ("x;", "f() x; f() x;"):
