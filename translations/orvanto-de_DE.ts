@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>die Datei ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>der neue Name ist leer oder besteht nur aus Punkten</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>diesen Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>das Dateisystem nimmt den neuen Namen nicht an</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>der neue Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>in diesem Ordner lässt sich nichts umbenennen</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>der neue Name enthält ein halbes Zeichen</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>das System hat es abgelehnt</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>der Name ist vergeben</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>Zeile %1 bekommt den Namen %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>Zeile %1 hat noch den Namen %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 behält ihren Namen</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 behalten ihren Namen</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>Prüfung läuft…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Zur nächsten problematischen Zeile (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, %2 ausgewählt</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 umbenennbar, %3, %4 nicht möglich</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 umbenennbar, %3, %4 nicht möglich, %5 unklar</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Behält ihren Namen.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Lässt sich vor dem Umbenennen nicht sagen.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Bleibt unverändert: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Wird in den Ordner %1 verschoben.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Der neue Name führt in den Ordner %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Nicht umbenannt: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>el archivo no existe</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>el nombre nuevo está vacío o solo tiene puntos</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>esa carpeta no existe</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>el sistema de archivos no admite el nombre nuevo</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>el nombre nuevo es demasiado largo</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>no se puede renombrar nada en esta carpeta</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>el nombre nuevo contiene medio carácter</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>el sistema lo rechazó</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>el nombre ya está en uso</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>la fila %1 toma el nombre %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>la fila %1 aún tiene el nombre %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 archivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 archivos</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 conserva su nombre</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 conservan su nombre</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>comprobando…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Ir a la siguiente fila con problemas (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, selección: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 con nombre nuevo, %3, %4 con problemas</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 con nombre nuevo, %3, %4 con problemas, %5 sin determinar</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Conserva su nombre.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>No se puede saber antes de renombrar.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Se queda igual: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Se moverá a la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>El nombre nuevo lleva a la carpeta %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Sin renombrar: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

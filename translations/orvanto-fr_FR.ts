@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>le fichier est introuvable</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>le nouveau nom est vide ou ne contient que des points</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>le système de fichiers n’accepte pas le nouveau nom</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>le nouveau nom est trop long</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>rien ne peut être renommé dans ce dossier</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>le nouveau nom contient la moitié d’un caractère</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>le système a refusé</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>le nom est déjà pris</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>la ligne %1 prend le nom %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>la ligne %1 porte encore le nom %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 fichier</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 fichiers</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 garde son nom</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 gardent leur nom</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>vérification…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Aller à la ligne problématique suivante (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, sélection : %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1 : %2 à renommer, %3, %4 en échec</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1 : %2 à renommer, %3, %4 en échec, %5 sans certitude</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Garde son nom.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Impossible à prédire avant de renommer.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Reste tel quel : %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Sera déplacé dans le dossier %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Le nouveau nom mène au dossier %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Non renommé : %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>
@@ -657,11 +764,11 @@
     </message>
     <message>
         <source>No valid pattern: it will change nothing.</source>
-        <translation>Motif non valide : il ne changera rien.</translation>
+        <translation>Motif non valide&#xa0;: il ne changera rien.</translation>
     </message>
     <message>
         <source>This pattern would take too long: it will change nothing.</source>
-        <translation>Ce motif prendrait trop de temps : il ne changera rien.</translation>
+        <translation>Ce motif prendrait trop de temps&#xa0;: il ne changera rien.</translation>
     </message>
 </context>
 <context>

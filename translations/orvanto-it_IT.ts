@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>il file non esiste</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>il nuovo nome è vuoto o fatto solo di punti</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>la cartella non esiste</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>il file system non accetta il nuovo nome</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>il nuovo nome è troppo lungo</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>in questa cartella non si può rinominare nulla</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>il nuovo nome contiene mezzo carattere</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>il sistema ha rifiutato</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>il nome è già in uso</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>la riga %1 prende il nome %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>la riga %1 ha ancora il nome %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 file</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 file</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 mantiene il nome</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 mantengono il nome</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>controllo in corso…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Vai alla prossima riga con problemi (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, selezionati: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 con nuovo nome, %3, %4 con problemi</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 con nuovo nome, %3, %4 con problemi, %5 in dubbio</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Mantiene il nome.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Non si può sapere prima di rinominare.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Resta com’è: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Verrà spostato nella cartella %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Il nuovo nome porta alla cartella %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Non rinominato: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

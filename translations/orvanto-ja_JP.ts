@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>ファイルが見つかりません</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>新しい名前が空か、ドットだけです</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>そのフォルダーはありません</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>ファイルシステムが新しい名前を受け付けません</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>新しい名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>このフォルダーでは名前を変更できません</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>新しい名前に文字の半分だけが含まれています</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>システムに拒否されました</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>その名前はすでに使われています</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>%1 行目が名前 %2 を使います</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>%1 行目がまだ名前 %2 を使っています</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 個のファイル</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 個のファイル</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 個は元の名前のまま</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 個は元の名前のまま</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>確認中…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>問題のある次の行へ移動 (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1、%2 個を選択中</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1：%2 個を変更、%3、%4 個は変更不可</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1：%2 個を変更、%3、%4 個は変更不可、%5 個は不明</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>元の名前のままです。</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>実行するまでわかりません。</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>変更できません：%1。</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>フォルダー %1 に移動します。</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>新しい名前はフォルダー %1 を指しています。</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>変更できませんでした：%1。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>het bestand is er niet</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>de nieuwe naam is leeg of bestaat alleen uit punten</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>die map bestaat niet</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>het bestandssysteem accepteert de nieuwe naam niet</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>de nieuwe naam is te lang</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>in deze map kan niets worden hernoemd</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>de nieuwe naam bevat een half teken</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>het systeem heeft geweigerd</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>de naam is al in gebruik</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>rij %1 krijgt de naam %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>rij %1 heeft nog de naam %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 bestand</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 bestanden</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 houdt zijn naam</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 houden hun naam</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>controleren…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Naar de volgende rij met een probleem (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, %2 geselecteerd</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 met nieuwe naam, %3, %4 niet mogelijk</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 met nieuwe naam, %3, %4 niet mogelijk, %5 onbekend</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Houdt zijn naam.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Niet te zeggen vóór het hernoemen.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Blijft zoals het is: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Wordt verplaatst naar de map %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>De nieuwe naam leidt naar de map %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Niet hernoemd: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

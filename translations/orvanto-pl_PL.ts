@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>nie ma takiego pliku</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>nowa nazwa jest pusta lub składa się z samych kropek</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>nie ma takiego folderu</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>system plików nie przyjmuje nowej nazwy</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>nowa nazwa jest za długa</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>w tym folderze nie można zmieniać nazw</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>nowa nazwa zawiera połowę znaku</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>system odmówił</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>nazwa jest zajęta</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>wiersz %1 przejmuje nazwę %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>wiersz %1 ma jeszcze nazwę %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>Pliki: 1</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>Pliki: %1</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>bez zmiany nazwy: 1</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>bez zmiany nazwy: %1</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>sprawdzanie…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Przejdź do następnego problematycznego wiersza (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, zaznaczone: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1 – nowa nazwa: %2, %3, niemożliwe: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1 – nowa nazwa: %2, %3, niemożliwe: %4, nieznane: %5</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Zachowuje swoją nazwę.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Nie da się tego przewidzieć przed zmianą nazw.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Pozostaje bez zmian: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Zostanie przeniesiony do folderu %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Nowa nazwa prowadzi do folderu %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Nie zmieniono nazwy: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>o arquivo não existe</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>o novo nome está vazio ou só tem pontos</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>essa pasta não existe</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>o sistema de arquivos não aceita o novo nome</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>o novo nome é longo demais</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>nada pode ser renomeado nesta pasta</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>o novo nome contém meio caractere</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>o sistema recusou</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>o nome já está em uso</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>a linha %1 recebe o nome %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>a linha %1 ainda tem o nome %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 mantém o nome</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 mantêm o nome</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>verificando…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Ir para a próxima linha com problema (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, seleção: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 com novo nome, %3, %4 com problemas</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 com novo nome, %3, %4 com problemas, %5 sem previsão</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Mantém o nome.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Não é possível saber antes de renomear.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Fica como está: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Será movido para a pasta %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>O novo nome leva à pasta %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Não renomeado: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

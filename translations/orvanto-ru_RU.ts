@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>файл не найден</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>новое имя пустое или состоит только из точек</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>такой папки нет</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>файловая система не принимает новое имя</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>новое имя слишком длинное</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>в этой папке нельзя переименовывать</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>новое имя содержит половину символа</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>система отказала</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>имя уже занято</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>строка %1 получает имя %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>строка %1 ещё занимает имя %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>Файлов: 1</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>Файлов: %1</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>без изменений: 1</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>без изменений: %1</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>проверка…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>К следующей проблемной строке (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, выбрано: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1; новое имя: %2, %3, невозможно: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1; новое имя: %2, %3, невозможно: %4, неизвестно: %5</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Имя остаётся прежним.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>До переименования предсказать нельзя.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Останется как есть: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Будет перемещён в папку %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Новое имя ведёт в папку %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Не переименован: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>dosya yerinde değil</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>yeni ad boş ya da yalnızca noktalardan oluşuyor</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>böyle bir klasör yok</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>dosya sistemi yeni adı kabul etmiyor</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>yeni ad çok uzun</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>bu klasörde yeniden adlandırma yapılamıyor</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>yeni adda yarım bir karakter var</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>sistem reddetti</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>bu ad kullanılıyor</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>%1. satır %2 adını alıyor</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>%1. satır hâlâ %2 adını taşıyor</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 dosya</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 dosya</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 tanesi adını koruyor</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 tanesi adını koruyor</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>denetleniyor…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>Sonraki sorunlu satıra git (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, %2 seçili</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1: %2 tanesi yeniden adlandırılacak, %3, %4 tanesi adlandırılamaz</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1: %2 tanesi yeniden adlandırılacak, %3, %4 tanesi adlandırılamaz, %5 tanesi belirsiz</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Adını koruyor.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>Yeniden adlandırmadan önce bilinemez.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Olduğu gibi kalıyor: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>%1 klasörüne taşınacak.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Yeni ad %1 klasörüne götürüyor.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Yeniden adlandırılmadı: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>файл не знайдено</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>нова назва порожня або складається лише з крапок</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>такої папки немає</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>файлова система не приймає нову назву</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>нова назва задовга</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>у цій папці не можна перейменовувати</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>нова назва містить половину символу</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>система відмовила</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>назва вже зайнята</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>рядок %1 отримує назву %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>рядок %1 ще має назву %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>Файлів: 1</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>Файлів: %1</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>без змін: 1</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>без змін: %1</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>перевірка…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>До наступного проблемного рядка (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1, вибрано: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1; нова назва: %2, %3, неможливо: %4</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1; нова назва: %2, %3, неможливо: %4, невідомо: %5</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>Назва не змінюється.</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>До перейменування передбачити неможливо.</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>Залишиться як є: %1.</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>Буде переміщено до папки %1.</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>Нова назва веде до папки %1.</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>Не перейменовано: %1.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

@@ -202,6 +202,113 @@
     </message>
 </context>
 <context>
+    <name>Fates</name>
+    <message>
+        <source>the file is not there</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>the new name is empty or only dots</source>
+        <translation>新名称为空或只有点</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有这个文件夹</translation>
+    </message>
+    <message>
+        <source>the file system does not take the new name</source>
+        <translation>文件系统不接受新名称</translation>
+    </message>
+    <message>
+        <source>the new name is too long</source>
+        <translation>新名称太长</translation>
+    </message>
+    <message>
+        <source>nothing can be renamed in this folder</source>
+        <translation>此文件夹中无法重命名</translation>
+    </message>
+    <message>
+        <source>the new name holds half a character</source>
+        <translation>新名称包含半个字符</translation>
+    </message>
+    <message>
+        <source>the system refused</source>
+        <translation>系统拒绝了操作</translation>
+    </message>
+    <message>
+        <source>the name is taken</source>
+        <translation>该名称已被占用</translation>
+    </message>
+    <message>
+        <source>row %1 takes the name %2</source>
+        <translation>第 %1 行占用名称 %2</translation>
+    </message>
+    <message>
+        <source>row %1 still has the name %2</source>
+        <translation>第 %1 行仍在使用名称 %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 个文件</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 个文件</translation>
+    </message>
+    <message>
+        <source>1 keeps its name</source>
+        <translation>1 个保持原名</translation>
+    </message>
+    <message>
+        <source>%1 keep their names</source>
+        <translation>%1 个保持原名</translation>
+    </message>
+    <message>
+        <source>checking…</source>
+        <translation>正在检查…</translation>
+    </message>
+    <message>
+        <source>Go to the next row in trouble (F8)</source>
+        <translation>转到下一个有问题的行 (F8)</translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation>%1，已选 %2 个</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot</source>
+        <translation>%1：%2 个将重命名，%3，%4 个无法重命名</translation>
+    </message>
+    <message>
+        <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
+        <translation>%1：%2 个将重命名，%3，%4 个无法重命名，%5 个未知</translation>
+    </message>
+    <message>
+        <source>Keeps its name.</source>
+        <translation>保持原名。</translation>
+    </message>
+    <message>
+        <source>Cannot be told before the run.</source>
+        <translation>运行前无法判断。</translation>
+    </message>
+    <message>
+        <source>Stays: %1.</source>
+        <translation>保持不变：%1。</translation>
+    </message>
+    <message>
+        <source>Moves to the folder %1.</source>
+        <translation>将移动到文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>The new name leads to the folder %1.</source>
+        <translation>新名称指向文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Not renamed: %1.</source>
+        <translation>未重命名：%1。</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Rules</source>

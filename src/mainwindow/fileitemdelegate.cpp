@@ -3,10 +3,30 @@
 
 #include "mainwindow/fileitemdelegate.h"
 
+#include "mainwindow/fileitem.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QFontMetrics>
-#include <QWidget>
+#include <QPainter>
 
 #include <algorithm>
+
+namespace {
+
+constexpr int markMargin = 2;     // pixels on both sides
+constexpr int oldNameMargin = 16; // pixels on both sides
+
+QColor between(const QColor &first, const QColor &second)
+{
+    const auto mix = [](int from, int to) {
+        return (from * 11 + to * 9) / 20;
+    };
+    return {mix(first.red(), second.red()), mix(first.green(), second.green()),
+            mix(first.blue(), second.blue())};
+}
+
+} // namespace
 
 FileItemDelegate::FileItemDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
@@ -34,6 +54,23 @@ void FileItemDelegate::forgetWidths()
     widest = 0;
 }
 
+void FileItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                             const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    const auto *view = qobject_cast<const QAbstractItemView *>(parent());
+    const QRect seen = option.rect & view->viewport()->rect();
+    const auto mark = static_cast<FateMark>(index.data(FileItem::MarkRole).toInt());
+    QRect end = seen;
+    end.setLeft(end.right() + 1);
+    if (mark != FateMark::None) {
+        end.setLeft(end.left() - seen.height() - 2 * markMargin);
+        paintMarkOf(index, painter, option, end);
+    }
+    if (const QVariant oldName = index.data(FileItem::OldNameRole); oldName.isValid())
+        paintOldName(displayText(oldName, option.locale), painter, option, index, end.left());
+}
+
 QSize FileItemDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
@@ -41,6 +78,54 @@ QSize FileItemDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
         QFontMetrics(option.font).horizontalAdvance(displayText(index.data(), option.locale));
     size.rwidth() += std::max(0, widest - textWidth);
     return size;
+}
+
+void FileItemDelegate::paintMarkOf(const QModelIndex &index, QPainter *painter,
+                                   const QStyleOptionViewItem &option, const QRect &end) const
+{
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const QWidget *view = option.widget;
+    const QStyle *style = view ? view->style() : QApplication::style();
+    painter->save();
+    // Nothing of a long text behind the mark.
+    painter->setClipRect(end);
+    painter->fillRect(end, row.palette.brush(row.features & QStyleOptionViewItem::Alternate
+                                                 ? QPalette::AlternateBase
+                                                 : QPalette::Base));
+    style->drawPrimitive(QStyle::PE_PanelItemViewRow, &row, painter, view);
+    style->drawPrimitive(QStyle::PE_PanelItemViewItem, &row, painter, view);
+    const int size = end.height() - 2;
+    paintMark(painter, QRectF(end.right() - markMargin - size, end.top() + 1, size, size),
+              static_cast<FateMark>(index.data(FileItem::MarkRole).toInt()));
+    painter->restore();
+}
+
+void FileItemDelegate::paintOldName(const QString &name, QPainter *painter,
+                                    const QStyleOptionViewItem &option, const QModelIndex &index,
+                                    int right) const
+{
+    QStyleOptionViewItem row = option;
+    initStyleOption(&row, index);
+    const QWidget *view = option.widget;
+    const QStyle *style = view ? view->style() : QApplication::style();
+    QRect place = style->subElementRect(QStyle::SE_ItemViewItemText, &row, view);
+    const QFontMetrics metrics(row.font);
+    place.setLeft(place.left() + metrics.horizontalAdvance(row.text) + oldNameMargin);
+    place.setRight(right - oldNameMargin);
+    if (metrics.horizontalAdvance(name) > place.width())
+        return;
+    const bool isSelected = row.state & QStyle::State_Selected;
+    const auto group = row.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+    const auto color = [&](QPalette::ColorRole role) {
+        return row.palette.color(group, role);
+    };
+    painter->save();
+    painter->setFont(row.font);
+    painter->setPen(isSelected ? between(color(QPalette::HighlightedText), color(QPalette::Highlight))
+                               : between(color(QPalette::Text), color(QPalette::Base)));
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
+    painter->restore();
 }
 
 void FileItemDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

@@ -3,6 +3,7 @@
 
 #include "mainwindow/listwidgetfiles.h"
 
+#include "mainwindow/fileitem.h"
 #include "mainwindow/fileitemdelegate.h"
 
 #include <QDragEnterEvent>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <typeinfo>
 
 using namespace std::chrono_literals;
 
@@ -63,25 +65,25 @@ void ListWidgetFiles::removeSelected()
     QList<bool> doomed(count(), false);
     for (const QModelIndex &index : selected)
         doomed[index.row()] = true;
-    QList<std::pair<QString, QString>> kept;
+    QList<QListWidgetItem *> kept;
     for (int row = 0; row < count(); ++row) {
         if (!doomed.at(row))
-            kept.append({path(row), item(row)->text()});
+            kept.append(item(row)->clone());
     }
     // Each row taken out of the middle would move all rows behind it, and the base class would search for
     // each of those again when it is changed next.
+    const int width = delegate->widestText();
     clear();
-    for (const auto &[path, text] : std::as_const(kept))
-        appendRow(path, text);
+    delegate->includeWidth(width);
+    for (QListWidgetItem *item : std::as_const(kept))
+        addItem(item);
     showAddedRows();
 }
 
 void ListWidgetFiles::appendRow(const QString &path, const QString &text)
 {
-    delegate->includeWidth(text);
-    auto *item = new QListWidgetItem(text);
-    item->setData(Qt::UserRole, path);
-    addItem(item);
+    includeWidth(text);
+    addItem(new FileItem(path, {FilePath::of(path), text, false}));
 }
 
 void ListWidgetFiles::showAddedRows()
@@ -93,11 +95,60 @@ void ListWidgetFiles::showAddedRows()
     QListWidget::rowsInserted({}, first, lastAddedRow);
 }
 
-void ListWidgetFiles::layoutLater()
+FileItem *ListWidgetFiles::fileItem(int row) const
+{
+    QListWidgetItem *found = item(row);
+    return found && typeid(*found) == typeid(FileItem) ? static_cast<FileItem *>(found) : nullptr;
+}
+
+void ListWidgetFiles::forgetTexts()
 {
     delegate->forgetWidths();
-    layoutRequested = true;
-    scheduleDelayedItemsLayout();
+    forgetFates();
+}
+
+void ListWidgetFiles::awaitText(int row, const std::shared_ptr<const RowNames> &names)
+{
+    if (FileItem *file = fileItem(row))
+        file->awaitText(names, row);
+    else
+        item(row)->setText(names->textOf(path(row), row).text);
+}
+
+void ListWidgetFiles::showTexts(bool areAllKnown)
+{
+    if (count() > 0 && firstAddedRow < 0) {
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        const QSize size = delegate->sizeHint(option, model()->index(count() - 1, 0));
+        const int shown = std::max(rowWidth, contentsSize().width());
+        if (size.height() * count() != contentsSize().height()) {
+            scheduleDelayedItemsLayout();
+        } else if (areAllKnown ? size.width() != shown : size.width() > shown) {
+            rowWidth = size.width();
+            resizeContents(rowWidth, contentsSize().height());
+            updateGeometries();
+        }
+    }
+    viewport()->update();
+}
+
+void ListWidgetFiles::includeWidth(const QString &text)
+{
+    delegate->includeWidth(text);
+}
+
+void ListWidgetFiles::forgetFates()
+{
+    ++age;
+}
+
+QRect ListWidgetFiles::visualRect(const QModelIndex &index) const
+{
+    QRect rect = QListWidget::visualRect(index);
+    if (rect.isValid() && rowWidth > 0)
+        rect.setWidth(std::max(rowWidth, viewport()->width()));
+    return rect;
 }
 
 bool ListWidgetFiles::isHandlingDrop() const
@@ -105,13 +156,15 @@ bool ListWidgetFiles::isHandlingDrop() const
     return handlesDrop;
 }
 
-void ListWidgetFiles::setRowText(int row, const QString &text)
+void ListWidgetFiles::setRowText(int row, const RowText &text)
 {
-    delegate->includeWidth(text);
-    QSignalBlocker quiet(model());
-    if (!layoutRequested)
-        quiet.unblock();
-    item(row)->setText(text);
+    if (FileItem *file = fileItem(row)) {
+        file->setRowText(text);
+        const QModelIndex index = model()->index(row, 0);
+        emit model()->dataChanged(index, index, {Qt::DisplayRole});
+    } else {
+        item(row)->setText(text.text);
+    }
 }
 
 void ListWidgetFiles::setPath(int row, const QString &path)
@@ -123,7 +176,7 @@ void ListWidgetFiles::setPath(int row, const QString &path)
 
 void ListWidgetFiles::doItemsLayout()
 {
-    layoutRequested = false;
+    rowWidth = 0;
     sinceLayout.start();
     QListWidget::doItemsLayout();
     layoutCost = sinceLayout.nsecsElapsed();
@@ -173,7 +226,7 @@ void ListWidgetFiles::dataChanged(const QModelIndex &topLeft, const QModelIndex 
         knownPaths.reset();
     // The base class asks for a layout and paints the row. A path alone changes nothing that is shown, and
     // rows that wait for a layout get one anyway.
-    const bool waiting = layoutRequested || (firstAddedRow >= 0 && topLeft.row() >= firstAddedRow);
+    const bool waiting = firstAddedRow >= 0 && topLeft.row() >= firstAddedRow;
     if (!waiting && roles != QList<int>{Qt::UserRole})
         QListWidget::dataChanged(topLeft, bottomRight, roles);
 }

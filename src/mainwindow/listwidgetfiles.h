@@ -9,13 +9,18 @@
 #include <QSet>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
+class FileItem;
 class FileItemDelegate;
+class RowNames;
+struct RowText;
 
 /// The list of files. A row's Qt::UserRole data is the file's full path.
 /// Made for a hundred thousand rows that come one at a time: a set of the paths answers containsPath() at
 /// once, and the layout, which walks all rows, is held back so that it takes a twentieth of the time at most.
+/// New texts need none: the rows stay where they are, and their width follows.
 class ListWidgetFiles final : public QListWidget
 {
     Q_OBJECT
@@ -29,21 +34,34 @@ public:
     [[nodiscard]] QString path(int row) const;
 
     void appendRow(const QString &path, const QString &text = {});
+    [[nodiscard]] QRect visualRect(const QModelIndex &index) const override;
     /// Deletes every selected row, at constant cost for each row of the list.
     void removeSelected();
     /// Lets rows that were added since the last layout show at once.
     void showAddedRows();
 
-    /// Lays all rows out again in the next pass of the event loop; to be called before many texts change.
-    void layoutLater();
+    /// The row as it was appended; null where another item was put in.
+    [[nodiscard]] FileItem *fileItem(int row) const;
+
+    /// Forgets how wide the texts are, and the fates; to be called before every row gets another text.
+    void forgetTexts();
+    /// Lets a row's text wait until somebody asks for it. Nobody is told: showTexts() shows it.
+    void awaitText(int row, const std::shared_ptr<const RowNames> &names);
+    /// Shows texts that have changed. Rows may be wider than their texts until all of them are known.
+    void showTexts(bool areAllKnown);
+    /// Makes rows wide enough for this text.
+    void includeWidth(const QString &text);
+
+    /// What rows were told at another age counts for nothing.
+    [[nodiscard]] int ageOfFates() const { return age; }
+    void forgetFates();
 
     /// Whether a drop is being handled: until then the window system's drag and drop needs the native window.
     [[nodiscard]] bool isHandlingDrop() const;
 
     /// Sets a row's Qt::UserRole data. Nothing that is shown changes, and nobody else is told.
     void setPath(int row, const QString &path);
-    /// Sets a row's text. While a layout is requested nobody else is told: it shows all texts anyway.
-    void setRowText(int row, const QString &text);
+    void setRowText(int row, const RowText &text);
 
     void doItemsLayout() override;
     void reset() override;
@@ -73,10 +91,12 @@ private:
     QTimer layoutTimer;
     QElapsedTimer sinceLayout;
     bool handlesDrop = false;
-    bool layoutRequested = false;
     /// Of the last layout, in nanoseconds.
     qint64 layoutCost = 0;
     /// Rows from here to lastAddedRow are not known to the base class yet; -1: all are.
     int firstAddedRow = -1;
     int lastAddedRow = -1;
+    /// Where it is not that of the last layout; otherwise 0.
+    int rowWidth = 0;
+    int age = 1;
 };

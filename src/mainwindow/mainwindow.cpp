@@ -13,6 +13,8 @@
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/fates.h"
+#include "mainwindow/forecastlabel.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -51,6 +53,8 @@ MainWindow::MainWindow(Qt::WindowFlags flags)
     , ui(std::make_unique<Ui::MainWindow>())
 {
     ui->setupUi(this);
+    fates = std::make_unique<Fates>(*ui->listWidgetFiles, *ui->buttonPreview);
+    ui->statusbar->addPermanentWidget(new ForecastLabel(*fates, *ui->listWidgetFiles));
 }
 
 MainWindow::~MainWindow()

@@ -14,6 +14,7 @@
 #include <memory>
 
 class Explorer;
+class Fates;
 class ProgressDialog;
 class QPushButton;
 class QSignalMapper;
@@ -116,6 +117,7 @@ private:
 
     std::unique_ptr<Ui::MainWindow> ui;
     FilePaths filePaths;
+    std::unique_ptr<Fates> fates;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned

@@ -6,13 +6,13 @@
 #include "core/applog.h"
 #include "desktop/messagebox.h"
 #include "mainwindow/explorer.h"
+#include "mainwindow/fates.h"
 #include "mainwindow/progressdialog.h"
 #include "rules/rulechain.h"
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
 #include "ui_mainwindow.h"
 
-#include <QDir>
 #include <QMessageBox>
 #include <QStackedWidget>
 
@@ -28,19 +28,23 @@ QString MainWindow::newName(const QString &name, int row) const
 
 void MainWindow::updateFileItem(int row)
 {
-    const FilePath file = filePaths.split(ui->listWidgetFiles->path(row));
-    QString text = ui->buttonPreview->isChecked() ? newName(file.name(), row) : file.name();
-    if (ui->checkBoxShowFullPath->isChecked()) {
-        // Deliberate: a folder on a network share is shown with one leading separator.
-        const QString folder = file.folder().toString().replace("//"_L1, "/"_L1);
-        text = QDir::toNativeSeparators(folder + QDir::separator() + text);
+    if (const auto names = fates->refreshedNames()) {
+        ui->listWidgetFiles->awaitText(row, names);
+        return;
     }
-    ui->listWidgetFiles->setRowText(row, text);
+    const FilePath file = filePaths.split(ui->listWidgetFiles->path(row));
+    const QString name = ui->buttonPreview->isChecked() ? newName(file.name(), row) : file.name();
+    ui->listWidgetFiles->setRowText(row, {file, name, ui->checkBoxShowFullPath->isChecked()});
 }
 
 void MainWindow::on_buttonPreview_clicked()
 {
-    ui->listWidgetFiles->layoutLater();
+    std::vector<RuleData> chain;
+    for (const RuleData *record : std::as_const(ruleList)) {
+        if (ui->buttonPreview->isChecked())
+            chain.push_back(*record);
+    }
+    const Fates::Refresh refresh(*fates, {std::move(chain), ui->checkBoxShowFullPath->isChecked()});
     for (int row = 0; row < ui->listWidgetFiles->count(); ++row)
         updateFileItem(row);
 }

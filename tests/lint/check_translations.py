@@ -19,7 +19,7 @@ SAME = {
     "de_DE": {"Info", "Plugins", "Debug", "Name", "OK", "Position", "Text"},
     "es_ES": {"General", "Total", "Ctrl"},
     "fr_FR": {"Code", "Message", "Total", "OK", "Ctrl", "Position"},
-    "it_IT": {"Debug", "OK", "Ctrl"},
+    "it_IT": {"1 file", "Debug", "OK", "Ctrl"},
     "ja_JP": {"OK", "Ctrl", "Shift"},
     "nl_NL": {"Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
     "pl_PL": {"OK", "Ctrl", "Shift"},

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/rownames.h"
 #include "support/environment.h"
 
 #include <QCoreApplication>
@@ -45,6 +46,10 @@ private:
         for (int row = 0; row < list->count(); ++row)
             result.append(list->item(row)->data(Qt::UserRole).toString());
         return result;
+    }
+    void setText(int row, const QString &text) const
+    {
+        list->setRowText(row, {FilePath::of(u"/p/"_s + text), text, false});
     }
     /// Compares the list with the rows that it should have, and its set of paths with both.
     void compare(const QStringList &expected, const QStringList &pool) const
@@ -248,13 +253,48 @@ private slots:
         list->item(3)->setSelected(true);
         list->removeSelected();
         QVERIFY(width() >= wanted);
-        list->layoutLater();
+        list->forgetTexts();
         for (int row = 0; row < 3; ++row)
-            list->setRowText(row, u"a"_s);
+            setText(row, u"a"_s);
         QVERIFY(width() < wanted);
-        list->setRowText(1, wide);
-        list->setRowText(2, u"b"_s);
+        setText(1, wide);
+        setText(2, u"b"_s);
         QVERIFY(width() >= wanted);
+    }
+
+    // New texts in a list that is laid out already: its rows, and how far it scrolls.
+    void widthFollowsNewTextsWithoutALayout()
+    {
+        for (int row = 0; row < 50; ++row)
+            list->appendRow(u"/p/%1"_s.arg(row), u"a"_s);
+        list->showAddedRows();
+        list->doItemsLayout();
+        QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
+        const QString wide(200, u'W');
+        const int wanted = list->fontMetrics().horizontalAdvance(wide);
+        const auto show = [&](const QString &text) {
+            for (int row = 0; row < list->count(); ++row)
+                list->setPath(row, u"/p/"_s + text);
+            list->forgetTexts();
+            const auto names = std::make_shared<const RowNames>(std::vector<RuleData>(), false);
+            for (int row = 0; row < list->count(); ++row)
+                list->awaitText(row, names);
+            QCOMPARE(list->item(7)->text(), text);
+            list->showTexts(true);
+        };
+        show(wide);
+        QVERIFY(list->visualItemRect(list->item(0)).width() >= wanted);
+        QVERIFY(list->horizontalScrollBar()->maximum() >= wanted - list->viewport()->width());
+        // Painted, and hit by a click, up to its end.
+        list->horizontalScrollBar()->setValue(list->horizontalScrollBar()->maximum());
+        QCOMPARE(list->indexAt({list->viewport()->width() - 5, 5}).row(), 0);
+        QVERIFY(everyRowIsLaidOut());
+        list->doItemsLayout();
+        QVERIFY(list->visualItemRect(list->item(0)).width() >= wanted);
+        QVERIFY(list->horizontalScrollBar()->maximum() >= wanted - list->viewport()->width());
+        show(u"a"_s);
+        QCOMPARE(list->horizontalScrollBar()->maximum(), 0);
+        QVERIFY(list->visualItemRect(list->item(0)).width() < wanted);
     }
 
     void lineBreakInANameIsPaintedAsABlank()

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "mainwindow/fatetexts.h"
+#include "mainwindow/rownames.h"
+#include "run/forecast.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+class ListWidgetFiles;
+class QAbstractButton;
+
+/// Refreshes the file list in slices, so that the window stays alive: finds the rows' texts and, while
+/// Preview is down, what a run would come to. It starts anew with every change of the list, and looks at the
+/// disk again when the window becomes active.
+class Fates final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Fates(ListWidgetFiles &list, const QAbstractButton &preview);
+    Q_DISABLE_COPY_MOVE(Fates)
+
+    /// While it lives every row gets its new text, which waits until somebody asks for it.
+    class Refresh final
+    {
+    public:
+        Refresh(Fates &of, RowNames names);
+        ~Refresh();
+        Q_DISABLE_COPY_MOVE(Refresh)
+
+    private:
+        Fates &fates;
+    };
+
+    /// Null when no refresh is in hand.
+    [[nodiscard]] std::shared_ptr<const RowNames> refreshedNames() const { return names; }
+
+    /// Whether rows are told what becomes of them.
+    [[nodiscard]] bool areForetold() const;
+    /// Whether all of it is told.
+    [[nodiscard]] bool isDone() const { return stage == Stage::Done; }
+    [[nodiscard]] const FateCounts &counts() const { return told; }
+
+signals:
+    /// What the functions above say, and how many rows there are.
+    void changed();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum class Stage { Texts, Listing, Telling, Done };
+
+    void startAgain();
+    void rowsChanged();
+    void work();
+    [[nodiscard]] bool hasToWait() const;
+    void doNextRow();
+    void tellRow(int row);
+    void finishStage();
+
+    ListWidgetFiles &list;
+    const QAbstractButton &preview;
+    std::shared_ptr<const RowNames> names;
+
+    Stage stage = Stage::Done;
+    int nextRow = 0;
+    SystemDiskView disk;
+    FilePaths filePaths;
+    std::optional<Forecast> forecast;
+    FateCounts told;
+
+    QTimer timer;
+    /// Invalid after a refresh, which shall be seen at once.
+    QElapsedTimer sinceRowsChanged;
+};
