@@ -64,14 +64,11 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const RuleReplace rule;
     FuzzInput input(data, size);
-    ReplaceParameters parameters;
-    parameters.regExp = input.flag();
-    parameters.replaceWhat = input.line();
-    parameters.replaceWith = input.line();
+    const bool isPattern = input.flag();
+    const QString what = input.line();
+    const ReplaceParameters parameters(what, input.line(), isPattern);
     // The time of a pattern grows with the square of the name's length, and sanitizers take their share.
     const QString name = input.line().left(parameters.regExp ? 32 : 1000);
-    if (parameters.regExp)
-        parameters.pattern = RegExp(parameters.replaceWhat);
     const RuleData record{&rule, parameters};
     const QString result = applyRuleChain(&record, name, 0);
     if (parameters.regExp)

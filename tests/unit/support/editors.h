@@ -5,34 +5,16 @@
 
 #include "rules/rule.h"
 #include "rules/ruledata.h"
+#include "unit/support/brackettranslator.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QMetaEnum>
 #include <QTest>
-#include <QTranslator>
 #include <QVariant>
 #include <QWidget>
 
 #include <memory>
-
-/// "Rules" translated into itself with brackets around it; every other context stays untranslated.
-class BracketTranslator final : public QTranslator
-{
-public:
-    BracketTranslator() { QCoreApplication::installTranslator(this); }
-    ~BracketTranslator() override { QCoreApplication::removeTranslator(this); }
-    Q_DISABLE_COPY_MOVE(BracketTranslator)
-
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *source, const char * /*comment*/,
-                                    int /*n*/) const override
-    {
-        if (qstrcmp(context, "Rules") != 0)
-            return {};
-        return u'[' + QString::fromUtf8(source) + u']';
-    }
-};
 
 /// "QLabel:Position" for a label or button, "QSpinBox" for a widget that shows no text of its own.
 inline QString widgetLine(const QWidget *widget)
@@ -126,21 +108,6 @@ inline void verifyAcceptsLanguageChange(QWidget &editor)
     other.ignore();
     QCoreApplication::sendEvent(&editor, &other);
     QVERIFY(!other.isAccepted());
-}
-
-/// What the rule makes of a name with these parameters.
-template <typename Parameters>
-QString applied(const Rule &rule, Parameters parameters, const QString &name, int fileIndex = 0)
-{
-    const RuleData data{&rule, std::move(parameters)};
-    return rule.apply(&data, name, fileIndex);
-}
-
-template <typename Parameters>
-QString described(const Rule &rule, Parameters parameters)
-{
-    const RuleData data{&rule, std::move(parameters)};
-    return rule.describe(&data);
 }
 
 /// The parameters that the rule reads from the editor.
