@@ -14,6 +14,13 @@
 
 using namespace Qt::StringLiterals;
 
+// The way of a pattern, which docs/patterns.md tells the reasons of:
+// - PatternReader follows the engine's parser through it, and adds up in a Part for each of its parts what
+// the
+//   automaton would amount to (inSequence, eitherOf, repeated, check). patternCost() is what comes out.
+// - Where that decides nothing, adverseNames() makes the names that such a pattern may take longest for, and
+//   isQuickEnough() has them searched, longer from time to time, with a clock beside it.
+
 namespace {
 
 // The longest file name that file systems take.
