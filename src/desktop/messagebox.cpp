@@ -26,6 +26,11 @@ QPushButton *addMessageButton(QMessageBox *box, QMessageBox::StandardButton butt
     return added;
 }
 
+void addCloseButton(QMessageBox *box, const QString &text)
+{
+    addMessageButton(box, QMessageBox::Ok, text, QStringLiteral(":/img/cancel.png"));
+}
+
 int execMessageBox(QMessageBox *box)
 {
     const QPointer<QMessageBox> guard(box);

@@ -13,6 +13,9 @@
 QPushButton *addMessageButton(QMessageBox *box, QMessageBox::StandardButton button, const QString &text,
                               const QString &iconPath);
 
+/// Gives the box its only button: Ok, under the text for "Close".
+void addCloseButton(QMessageBox *box, const QString &text);
+
 /// Runs the box modally, schedules its deletion and returns the standard button pressed. NoButton when the
 /// box was destroyed meanwhile, with its parent perhaps: look after your own "this" then.
 int execMessageBox(QMessageBox *box);

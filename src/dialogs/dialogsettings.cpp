@@ -158,7 +158,7 @@ void DialogSettings::showValidationBox(bool isOkay)
     box->setText(isOkay ? tr("The command completed successfully.")
                         : tr("The command failed to execute.") + u'\n' +
                               tr("Make sure you have administrator rights."));
-    addMessageButton(box, QMessageBox::Ok, tr("Close"), u":/img/cancel.png"_s);
+    addCloseButton(box, tr("Close"));
     execMessageBox(box);
 }
 

@@ -4,6 +4,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
+#include "desktop/messagebox.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/progressdialog.h"
 #include "rules/rulechain.h"
@@ -98,14 +99,10 @@ void MainWindow::showReport(const RenameRun &run)
                            u' ' + QString::number(run.failed());
     QMessageBox box(this);
     box.setWindowTitle(tr("Report"));
-    box.setStandardButtons(QMessageBox::Ok);
     box.setIcon(QMessageBox::Information);
     box.setStyleSheet(u"QLabel{color:#444;font: bold 10pt}"_s);
     box.setText(report);
     AppLog::instance()->append(QString(report).replace(u'\n', u' '));
-    QAbstractButton *button = box.button(QMessageBox::Ok);
-    button->setText(tr("Close"));
-    button->setIcon(QIcon(u":/img/cancel.png"_s));
-    button->setIconSize({24, 24});
+    addCloseButton(&box, tr("Close"));
     box.exec();
 }

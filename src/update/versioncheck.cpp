@@ -221,7 +221,7 @@ void VersionCheck::showUpToDate()
 {
     QMessageBox *box = createBox();
     box->setText(tr("You are using the latest version."));
-    addMessageButton(box, QMessageBox::Ok, tr("Close"), u":/img/cancel.png"_s);
+    addCloseButton(box, tr("Close"));
     execMessageBox(box);
 }
 

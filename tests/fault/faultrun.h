@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "support/boxes.h"
 #include "support/drivenwindow.h"
+#include "support/modalanswer.h"
 
 #include <QFileInfo>
 #include <QMap>

@@ -3,9 +3,10 @@
 
 #include "fault/diskmodel.h"
 #include "fault/randominput.h"
-#include "support/boxes.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
+#include "support/environment.h"
+#include "support/modalanswer.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -25,14 +26,6 @@ struct Expectation
     QStringList paths;
     QStringList logLines = {u"File renaming started"_s};
 };
-
-/// A number from the environment, or another one where none is set.
-int environmentNumber(const char *name, int otherwise)
-{
-    bool valid = false;
-    const int number = qEnvironmentVariableIntValue(name, &valid);
-    return valid ? number : otherwise;
-}
 
 } // namespace
 
@@ -226,11 +219,8 @@ private slots:
 
     void noFileIsEverLostAndTheReportIsTrue()
     {
-        const auto seed = static_cast<quint32>(environmentNumber(
-            "ORVANTO_SEED", QRandomGenerator::system()->bounded(std::numeric_limits<int>::max())));
+        const quint32 seed = randomSeed();
         const int rounds = environmentNumber("ORVANTO_ROUNDS", 3000);
-        // Now, too: a crash leaves no time for it.
-        std::fprintf(stderr, "ORVANTO_SEED=%u ORVANTO_ROUNDS=%d\n", seed, rounds);
         for (int round = 0; round < rounds; ++round) {
             // One generator per round: a failing round can be repeated alone.
             const quint32 roundSeed = seed + static_cast<quint32>(round);

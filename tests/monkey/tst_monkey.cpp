@@ -5,6 +5,7 @@
 #include "dialogs/dialogstart.h"
 #include "hands.h"
 #include "support/drivenwindow.h"
+#include "support/environment.h"
 #include "support/httpurls.h"
 #include "update/versioncheck.h"
 
@@ -22,14 +23,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int files = 40;
-
-/// A number from the environment, or another one where none is set.
-int environmentNumber(const char *name, int otherwise)
-{
-    bool valid = false;
-    const int number = qEnvironmentVariableIntValue(name, &valid);
-    return valid ? number : otherwise;
-}
 
 } // namespace
 

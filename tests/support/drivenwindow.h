@@ -41,10 +41,8 @@ class TestSettings
 {
 public:
     TestSettings()
-        : previous(QDir::currentPath())
     {
-        QDir::setCurrent(tree.path());
-        SettingsStore::instance()->setFilePath(tree.path() + QStringLiteral("/config/global.xml"));
+        SettingsStore::instance()->setFilePath(tree.path(QStringLiteral("config/global.xml")));
         // Closing a window would ask for support otherwise, and wait for an answer.
         SettingsStore::instance()->setValueByName(QStringLiteral("SupportUsHint"), false);
     }
@@ -54,14 +52,10 @@ public:
         Localizer::destroy();
         AppLog::destroy();
         SettingsStore::destroy();
-        QDir::setCurrent(previous);
     }
     Q_DISABLE_COPY_MOVE(TestSettings)
 
-    TempTree tree;
-
-private:
-    QString previous;
+    TestFolder tree;
 };
 
 /// The real main window, driven as a user drives it.

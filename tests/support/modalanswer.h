@@ -50,8 +50,50 @@ private:
     bool done = false;
 };
 
+/// What a message box showed when it was answered.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QString informativeText;
+    QString objectName;
+    QString styleSheet;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    Qt::TextFormat format = Qt::AutoText;
+    QWidget *parent = nullptr;
+    QMessageBox::StandardButtons buttons;
+    QMap<QMessageBox::StandardButton, QString> buttonTexts;
+    QMap<QMessageBox::StandardButton, QIcon> buttonIcons;
+    QString defaultButton;
+    bool areIconsOf24 = true;
+    bool hasContextHelp = true;
+
+    SeenBox() = default;
+    explicit SeenBox(const QMessageBox &box)
+        : title(box.windowTitle())
+        , text(box.text())
+        , informativeText(box.informativeText())
+        , objectName(box.objectName())
+        , styleSheet(box.styleSheet())
+        , icon(box.icon())
+        , format(box.textFormat())
+        , parent(box.parentWidget())
+        , buttons(box.standardButtons())
+        , defaultButton(box.defaultButton() ? box.defaultButton()->text() : QString())
+        , hasContextHelp(box.windowFlags().testFlag(Qt::WindowContextHelpButtonHint))
+    {
+        const QList<QAbstractButton *> all = box.buttons();
+        for (QAbstractButton *button : all) {
+            const QMessageBox::StandardButton which = box.standardButton(button);
+            buttonTexts[which] = button->text();
+            buttonIcons[which] = button->icon();
+            areIconsOf24 = areIconsOf24 && button->iconSize() == QSize(24, 24);
+        }
+    }
+};
+
 /// Answers the next message box with one of its buttons (by a mouse-like click) and keeps what it showed.
-class BoxAnswer final : public ModalAnswer
+class BoxAnswer final : public ModalAnswer, public SeenBox
 {
 public:
     explicit BoxAnswer(QMessageBox::StandardButton button)
@@ -59,18 +101,8 @@ public:
     {
     }
 
-    QString title;
-    QString text;
-    QString informativeText;
-    QString objectName;
-    QMessageBox::Icon icon = QMessageBox::NoIcon;
-    Qt::TextFormat format = Qt::AutoText;
-    QWidget *parent = nullptr;
-    QMessageBox::StandardButtons standardButtons;
-    QMap<QMessageBox::StandardButton, QString> buttonTexts;
-    QString defaultButton;
-    bool areIconsOf24 = true;
-    bool hasContextHelp = true;
+    using SeenBox::objectName;
+    using SeenBox::parent;
 
 private:
     void read(QDialog *dialog, QMessageBox::StandardButton button)
@@ -78,25 +110,46 @@ private:
         auto *box = qobject_cast<QMessageBox *>(dialog);
         if (!box)
             return;
-        title = box->windowTitle();
-        text = box->text();
-        informativeText = box->informativeText();
-        objectName = box->objectName();
-        icon = box->icon();
-        format = box->textFormat();
-        parent = box->parentWidget();
-        standardButtons = box->standardButtons();
-        hasContextHelp = box->windowFlags().testFlag(Qt::WindowContextHelpButtonHint);
-        if (box->defaultButton())
-            defaultButton = box->defaultButton()->text();
-        const QList<QAbstractButton *> buttons = box->buttons();
-        for (const QAbstractButton *each : buttons) {
-            buttonTexts[box->standardButton(const_cast<QAbstractButton *>(each))] = each->text();
-            areIconsOf24 = areIconsOf24 && each->iconSize() == QSize(24, 24);
-        }
+        static_cast<SeenBox &>(*this) = SeenBox(*box);
         if (button == QMessageBox::NoButton)
             box->close();
         else if (QAbstractButton *wanted = box->button(button))
             wanted->click();
     }
+};
+
+/// Answers every message box that opens while it lives with its first button, and remembers it.
+class BoxAnswerer final
+{
+public:
+    BoxAnswerer()
+    {
+        timer.setInterval(0);
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { answer(); });
+        timer.start();
+    }
+    Q_DISABLE_COPY_MOVE(BoxAnswerer)
+
+    QList<SeenBox> seen;
+    /// Called with the open box before it is answered.
+    std::function<void(QMessageBox *)> beforeAnswer;
+
+private:
+    void answer()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        // beforeAnswer may process events and come here again.
+        if (!box || answering)
+            return;
+        answering = true;
+        QAbstractButton *button = box->buttons().constFirst();
+        seen.append(SeenBox(*box));
+        if (beforeAnswer)
+            beforeAnswer(box);
+        button->click();
+        answering = false;
+    }
+
+    QTimer timer;
+    bool answering = false;
 };

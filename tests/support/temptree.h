@@ -9,6 +9,26 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+inline bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+/// The content; "(cannot be read)" for what is no readable file.
+inline QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(cannot be read)");
+}
+
+/// Everything directly in the folder, hidden entries and dangling links too, by name.
+inline QStringList entriesOf(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                                  QDir::Name);
+}
+
 /// A folder tree of its own for a test, on a RAM disk where there is one; gone when the object goes. Names
 /// are relative to its root.
 class TempTree
@@ -60,18 +80,8 @@ public:
         return path(name);
     }
 
-    /// Everything directly in a folder, sorted, hidden names and links included.
-    [[nodiscard]] QStringList names(const QString &name = {}) const
-    {
-        return QDir(path(name))
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    [[nodiscard]] QByteArray content(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("(no such file)");
-    }
+    [[nodiscard]] QStringList names(const QString &name = {}) const { return entriesOf(path(name)); }
+    [[nodiscard]] QByteArray content(const QString &name) const { return readFile(path(name)); }
 
 private:
     /// In memory where there is such a place; who names a folder for temporary files means it.
@@ -83,4 +93,16 @@ private:
     }
 
     QTemporaryDir folder;
+};
+
+/// A tree that is the current directory for as long as it exists.
+class TestFolder final : public TempTree
+{
+public:
+    TestFolder() { QDir::setCurrent(path()); }
+    ~TestFolder() { QDir::setCurrent(previous); }
+    Q_DISABLE_COPY_MOVE(TestFolder)
+
+private:
+    QString previous = QDir::currentPath();
 };

@@ -6,7 +6,7 @@
 #include "core/settingsstore.h"
 #include "dialogs/dialogstart.h"
 #include "mainwindow/mainwindow.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

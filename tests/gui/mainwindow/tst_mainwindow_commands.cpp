@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/drivenwindow.h"
+#include "support/faketranslator.h"
 
 #include "core/maker.h"
 
@@ -15,28 +16,23 @@
 #include <QSystemTrayIcon>
 #include <QTableWidget>
 #include <QTest>
-#include <QTranslator>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// Turns every text of a context into "<text reversed>", so that nothing sorts as it did.
-class MirrorTranslator : public QTranslator
+QString mirrored(QLatin1StringView context, const QString &text)
 {
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        if (qstrcmp(context, "MainWindow") != 0 && qstrcmp(context, "Rules") != 0)
-            return {};
-        QString result = QString::fromUtf8(text);
-        std::reverse(result.begin(), result.end());
-        return result;
-    }
-};
+    if (context != "MainWindow"_L1 && context != "Rules"_L1)
+        return {};
+    QString result = text;
+    std::reverse(result.begin(), result.end());
+    return result;
+}
 
 } // namespace
 
@@ -365,15 +361,14 @@ private slots:
     {
         const auto *comboBox = window->child<QComboBox>("comboBoxRules");
         QVERIFY(window->chooseKind(TrimKind));
-        MirrorTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        std::optional<FakeTranslator> translator(mirrored);
         QCoreApplication::processEvents();
         QCOMPARE(window->child<QDockWidget>("dockWidgetExplorer")->windowTitle(), u"rerolpxE eliF"_s);
         QCOMPARE(window->child<QAction>("actionExplorer")->statusTip(), u"rerolpxE eliF"_s);
         QCOMPARE(window->child<QDockWidget>("dockWidgetLog")->windowTitle(), u"goL noitacilppA"_s);
         QCOMPARE(window->child<QPushButton>("buttonRename")->text(), u"emaneR"_s);
         QCOMPARE(comboBox->currentText(), u"mirT"_s);
-        QCoreApplication::removeTranslator(&translator);
+        translator.reset();
         QCoreApplication::processEvents();
         QCOMPARE(window->child<QDockWidget>("dockWidgetExplorer")->windowTitle(), u"File Explorer"_s);
         QCOMPARE(window->child<QPushButton>("buttonRename")->text(), u"Rename"_s);

@@ -3,9 +3,9 @@
 
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
-#include "support/boxes.h"
 #include "support/drivenwindow.h"
 #include "support/explorerrows.h"
+#include "support/modalanswer.h"
 
 #include <QDockWidget>
 #include <QElapsedTimer>

@@ -3,6 +3,7 @@
 
 #include "mainwindow/explorermodel.h"
 #include "support/duringevents.h"
+#include "support/environment.h"
 #include "support/explorerrows.h"
 #include "support/temptree.h"
 
@@ -14,9 +15,6 @@
 #include <QTest>
 #include <QTreeView>
 #include <QUrl>
-
-#include <cstdio>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -246,12 +244,7 @@ private slots:
 
     void randomChangesAgreeWithTheDisk()
     {
-        bool set = false;
-        int seed = qEnvironmentVariableIntValue("ORVANTO_SEED", &set);
-        if (!set)
-            seed = QRandomGenerator::system()->bounded(std::numeric_limits<int>::max());
-        std::fprintf(stderr, "ORVANTO_SEED=%d\n", seed);
-        QRandomGenerator random(static_cast<quint32>(seed));
+        QRandomGenerator random(randomSeed());
         const QPersistentModelIndex folder = open(tree->path());
         const QPersistentModelIndex kept = folder;
         for (int round = 0; round < 60; ++round) {

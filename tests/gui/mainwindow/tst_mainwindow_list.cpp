@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mainwindow/listwidgetfiles.h"
+#include "support/environment.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>
@@ -9,8 +10,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cstdio>
-#include <limits>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -179,12 +178,7 @@ private slots:
 
     void randomChangesAgreeWithAPlainList()
     {
-        bool set = false;
-        int seed = qEnvironmentVariableIntValue("ORVANTO_SEED", &set);
-        if (!set)
-            seed = QRandomGenerator::system()->bounded(std::numeric_limits<int>::max());
-        std::fprintf(stderr, "ORVANTO_SEED=%d\n", seed);
-        QRandomGenerator random(static_cast<quint32>(seed));
+        QRandomGenerator random(randomSeed());
         QStringList pool;
         for (int i = 0; i < 60; ++i)
             pool.append(u"/r/%1"_s.arg(i));

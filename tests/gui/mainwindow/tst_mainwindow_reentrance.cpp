@@ -1,33 +1,27 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "support/boxes.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
+#include "support/environment.h"
+#include "support/faketranslator.h"
+#include "support/modalanswer.h"
 
 #include <QRandomGenerator>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 
 #include <algorithm>
-#include <cstdio>
 #include <functional>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class LongTranslator : public QTranslator
+QString inBrackets(QLatin1StringView /*context*/, const QString &text)
 {
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *, const char *text, const char *, int) const override
-    {
-        return u"<%1>"_s.arg(QString::fromUtf8(text));
-    }
-};
+    return u"<%1>"_s.arg(text);
+}
 
 } // namespace
 
@@ -43,7 +37,6 @@ private:
     std::unique_ptr<TestSettings> settings;
     std::unique_ptr<DrivenWindow> window;
     std::unique_ptr<BoxAnswerer> boxes;
-    LongTranslator translator;
     TempTree *tree = nullptr;
     static constexpr int fileCount = 12;
 
@@ -142,10 +135,9 @@ private:
                  w->show();
              }},
             {u"change the language"_s,
-             [this] {
-                 QCoreApplication::installTranslator(&translator);
+             [] {
+                 const FakeTranslator translator(inBrackets);
                  QCoreApplication::processEvents();
-                 QCoreApplication::removeTranslator(&translator);
              }},
             {u"tick"_s,
              [w] {
@@ -415,12 +407,7 @@ private slots:
 
     void storm()
     {
-        bool set = false;
-        int seed = qEnvironmentVariableIntValue("ORVANTO_SEED", &set);
-        if (!set)
-            seed = QRandomGenerator::system()->bounded(std::numeric_limits<int>::max());
-        std::fprintf(stderr, "ORVANTO_SEED=%d\n", seed);
-        QRandomGenerator random(static_cast<quint32>(seed));
+        QRandomGenerator random(randomSeed());
         const QList<Action> choices = actions().values();
         const QByteArrayList before = contents();
         for (int round = 0; round < 60; ++round) {

@@ -1,35 +1,30 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "support/boxes.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
+#include "support/faketranslator.h"
+#include "support/modalanswer.h"
 
 #include "withoutprivileges.h"
 
 #include <QMap>
 #include <QProgressBar>
 #include <QTest>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class ReportTranslator : public QTranslator
+QString inGerman(QLatin1StringView context, const QString &text)
 {
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        static const QMap<QString, QString> texts = {{u"Total"_s, u"Gesamt"_s},
-                                                     {u"Processed"_s, u"Verarbeitet"_s},
-                                                     {u"Failed"_s, u"Fehler"_s},
-                                                     {u"Could not rename file"_s, u"Nicht umbenannt"_s},
-                                                     {u"File renaming started"_s, u"Los"_s}};
-        return qstrcmp(context, "MainWindow") == 0 ? texts.value(QString::fromUtf8(text)) : QString();
-    }
-};
+    static const QMap<QString, QString> texts = {{u"Total"_s, u"Gesamt"_s},
+                                                 {u"Processed"_s, u"Verarbeitet"_s},
+                                                 {u"Failed"_s, u"Fehler"_s},
+                                                 {u"Could not rename file"_s, u"Nicht umbenannt"_s},
+                                                 {u"File renaming started"_s, u"Los"_s}};
+    return context == "MainWindow"_L1 ? texts.value(text) : QString();
+}
 
 } // namespace
 
@@ -114,10 +109,11 @@ private slots:
         QCOMPARE(box.icon, QMessageBox::Information);
         QCOMPARE(box.buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
         QCOMPARE(box.styleSheet, u"QLabel{color:#444;font: bold 10pt}"_s);
-        QCOMPARE(box.buttonText, u"Close"_s);
-        QCOMPARE(box.buttonIconSize, QSize(24, 24));
-        QVERIFY(!box.buttonIcon.isNull());
-        QCOMPARE(box.buttonIcon.pixmap(24).toImage(), QIcon(u":/img/cancel.png"_s).pixmap(24).toImage());
+        QCOMPARE(box.buttonTexts.value(QMessageBox::Ok), u"Close"_s);
+        QVERIFY(box.areIconsOf24);
+        const QIcon icon = box.buttonIcons.value(QMessageBox::Ok);
+        QVERIFY(!icon.isNull());
+        QCOMPARE(icon.pixmap(24).toImage(), QIcon(u":/img/cancel.png"_s).pixmap(24).toImage());
         QCOMPARE(box.parent, window->get());
         QVERIFY(!window->get()->findChild<QMessageBox *>());
     }
@@ -134,8 +130,7 @@ private slots:
 
     void textsAreTranslated()
     {
-        ReportTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        const FakeTranslator translator(inGerman);
         window->drop({tree->addFile(u"dir/a.txt"_s)});
         run();
         QCOMPARE(boxes->seen.constFirst().text, u"Gesamt 1\nVerarbeitet 0\nFehler 1"_s);

@@ -2,30 +2,26 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/drivenwindow.h"
+#include "support/faketranslator.h"
 
 #include <QMap>
 #include <QTest>
-#include <QTranslator>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /// A language in which the kinds sort in another order than in English.
-class SampleTranslator : public QTranslator
+QString inAnotherOrder(QLatin1StringView context, const QString &text)
 {
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        static const QMap<QString, QString> texts = {
-            {u"Replace"_s, u"Ersetzen"_s},    {u"Trim"_s, u"Beschneiden"_s},
-            {u"Change Case"_s, u"Schrift"_s}, {u"Insert Text"_s, u"Text"_s},
-            {u"Enumerate"_s, u"Zahl"_s},      {u"Position"_s, u"Stelle"_s},
-            {u"Start"_s, u"Anfang"_s},        {u"Start Number"_s, u"Startzahl"_s}};
-        return qstrcmp(context, "Rules") == 0 ? texts.value(QString::fromUtf8(text)) : QString();
-    }
-};
+    static const QMap<QString, QString> texts = {
+        {u"Replace"_s, u"Ersetzen"_s}, {u"Trim"_s, u"Beschneiden"_s},      {u"Change Case"_s, u"Schrift"_s},
+        {u"Insert Text"_s, u"Text"_s}, {u"Enumerate"_s, u"Zahl"_s},        {u"Position"_s, u"Stelle"_s},
+        {u"Start"_s, u"Anfang"_s},     {u"Start Number"_s, u"Startzahl"_s}};
+    return context == "Rules"_L1 ? texts.value(text) : QString();
+}
 
 } // namespace
 
@@ -183,8 +179,7 @@ private slots:
         window->addEnumerate(7);
         window->selectRule(1);
         QVERIFY(window->chooseKind(TrimKind));
-        SampleTranslator translator;
-        QCoreApplication::installTranslator(&translator);
+        std::optional<FakeTranslator> translator(inAnotherOrder);
         QCoreApplication::processEvents();
         QCOMPARE(comboTexts(),
                  QStringList({u"Beschneiden"_s, u"Ersetzen"_s, u"Schrift"_s, u"Text"_s, u"Zahl"_s}));
@@ -193,7 +188,7 @@ private slots:
         QCOMPARE(window->rules(), QStringList({u"Text: 'a' / Stelle 0 / Anfang"_s,
                                                u"Zahl: Startzahl 7 / Stelle 0 / Anfang"_s}));
         QCOMPARE(window->currentRule(), 1);
-        QCoreApplication::removeTranslator(&translator);
+        translator.reset();
         QCoreApplication::processEvents();
         QCOMPARE(comboBox()->currentText(), u"Trim"_s);
         QCOMPARE(window->currentRule(), 1);

@@ -5,7 +5,7 @@
 
 #include "core/localizer.h"
 #include "core/settingsstore.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QCoreApplication>
 #include <QTreeWidget>

@@ -4,7 +4,7 @@
 #include "core/applog.h"
 #include "core/datapaths.h"
 #include "core/settingsstore.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -3,7 +3,7 @@
 
 #include "core/applog.h"
 #include "core/settingsstore.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QDebug>
 #include <QLocale>

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "core/settingsstore.h"
-#include "unit/support/testfolder.h"
+#include "support/messagecatcher.h"
+#include "support/temptree.h"
 
 #include "fileidentity.h"
 #include "filesizelimit.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "core/settingsstore.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QCoreApplication>
 #include <QTest>

@@ -3,7 +3,7 @@
 
 #include "core/translationfile.h"
 
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

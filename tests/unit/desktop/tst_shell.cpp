@@ -4,7 +4,8 @@
 #include "desktop/shell.h"
 #include "desktop/taskbar.h"
 #include "support/httpurls.h"
-#include "unit/support/testfolder.h"
+#include "support/messagecatcher.h"
+#include "support/temptree.h"
 
 #include <QTest>
 

@@ -3,7 +3,7 @@
 
 #include "platform/fileidentity.h"
 #include "platform/filerename.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include "fileidentity.h"
 

@@ -3,7 +3,7 @@
 
 #include "platform/osversion.h"
 #include "platform/userdatafolder.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QSysInfo>
 #include <QTest>

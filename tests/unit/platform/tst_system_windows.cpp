@@ -8,7 +8,7 @@
 #include "platform/filerename.h"
 #include "platform/osversion.h"
 #include "platform/userdatafolder.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -4,8 +4,8 @@
 #include "run/forecast.h"
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
+#include "support/temptree.h"
 #include "unit/run/modeldisk.h"
-#include "unit/support/testfolder.h"
 
 #include "withoutprivileges.h"
 

@@ -3,7 +3,7 @@
 
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
-#include "unit/support/testfolder.h"
+#include "support/temptree.h"
 
 #include <QTest>
 

@@ -3,23 +3,16 @@
 
 #pragma once
 
-#include <QCoreApplication>
-#include <QTranslator>
+#include "support/faketranslator.h"
 
 /// "Rules" translated into itself with brackets around it; every other context stays untranslated.
-class BracketTranslator final : public QTranslator
+class BracketTranslator final : public FakeTranslator
 {
 public:
-    BracketTranslator() { QCoreApplication::installTranslator(this); }
-    ~BracketTranslator() override { QCoreApplication::removeTranslator(this); }
-    Q_DISABLE_COPY_MOVE(BracketTranslator)
-
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *source, const char * /*comment*/,
-                                    int /*n*/) const override
+    BracketTranslator()
+        : FakeTranslator([](QLatin1StringView context, const QString &text) {
+            return context == QLatin1StringView("Rules") ? u'[' + text + u']' : QString();
+        })
     {
-        if (qstrcmp(context, "Rules") != 0)
-            return {};
-        return u'[' + QString::fromUtf8(source) + u']';
     }
 };

@@ -176,7 +176,7 @@ void TestVersionCheck::readsOutdatedAsBool()
     server->answerBody("outdated=" + value + "\n");
     const auto box = runAnswering(true, QMessageBox::NoButton);
     QVERIFY(box->isDone());
-    QCOMPARE(box->standardButtons.testFlag(QMessageBox::Yes), isOutdated);
+    QCOMPARE(box->buttons.testFlag(QMessageBox::Yes), isOutdated);
 }
 
 void TestVersionCheck::automaticOffersTheNewVersion()
@@ -208,7 +208,7 @@ void TestVersionCheck::forcedOffersNoSkipping()
     server->answerBody(newVersion);
     const auto box = runAnswering(true, QMessageBox::Close);
     QVERIFY(box->isDone());
-    QCOMPARE(box->standardButtons, QMessageBox::Yes | QMessageBox::Close | QMessageBox::Retry);
+    QCOMPARE(box->buttons, QMessageBox::Yes | QMessageBox::Close | QMessageBox::Retry);
 }
 
 void TestVersionCheck::buttonsDoTheirWork_data()
@@ -260,7 +260,7 @@ void TestVersionCheck::skippedVersion()
     server->answerBody("outdated=1\nlatest=" + latest + "\n");
     const auto box = runAnswering(isForced, QMessageBox::Close);
     QCOMPARE(box->isDone(), isShown);
-    QVERIFY(!box->standardButtons.testFlag(QMessageBox::Ignore) || !isForced);
+    QVERIFY(!box->buttons.testFlag(QMessageBox::Ignore) || !isForced);
     QCOMPARE(setting(SettingKey::VersionCheckLast).toString(), today());
 }
 
@@ -321,7 +321,7 @@ void TestVersionCheck::failureIsShownWhenForced()
     QCOMPARE(box->text, u"Error connecting to server. [Data transmission failure]\n"
                         "Please check manually at: http://www.kavrondel.example/"_s);
     QCOMPARE(box->icon, QMessageBox::Warning);
-    QCOMPARE(box->standardButtons, QMessageBox::Ok);
+    QCOMPARE(box->buttons, QMessageBox::Ok);
     QCOMPARE(box->parent, window.get());
     QVERIFY(setting(SettingKey::VersionCheckLast).isNull());
     QCOMPARE(messages(), QStringList{failed});
