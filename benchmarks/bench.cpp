@@ -28,8 +28,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int filesPerFolder = 1000;
-
 /// The page of the kind's editor.
 int pageOf(Kind kind)
 {
@@ -63,8 +61,9 @@ void PauseMeter::pass()
     sincePass.start();
 }
 
-FileTree::FileTree(int fileCount)
+FileTree::FileTree(int fileCount, int inEachFolder)
     : count(fileCount)
+    , filesPerFolder(inEachFolder)
 {
     QTemporaryDir directory(u"/dev/shm/orvanto-benchmark-XXXXXX"_s);
     directory.setAutoRemove(false);
