@@ -1,12 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/ruleinserttext.h"
-#include "unit/support/editors.h"
-
-#include <QLineEdit>
-#include <QRadioButton>
-#include <QSpinBox>
+#include "naming/insertion.h"
+#include "unit/naming/applied.h"
 
 using namespace Qt::StringLiterals;
 
@@ -22,16 +18,6 @@ private slots:
     void describesTextPositionAndDirection_data();
     void describesTextPositionAndDirection();
     void describesInTheCurrentLanguage();
-    void editorHasItsWidgetsInOrder();
-    void editorStartsWithItsInitialValues();
-    void editorLaysOutItsWidgets();
-    void editorFollowsTheLanguage();
-    void createDataReadsTheEditor();
-    void createDataWithoutAnEditorIsNull();
-    void directionsExcludeEachOther();
-
-private:
-    RuleInsertText rule;
 };
 
 void TestInsertText::insertsTheText_data()
@@ -76,19 +62,19 @@ void TestInsertText::insertsTheText()
     QFETCH(QString, text);
     QFETCH(int, position);
     QFETCH(bool, fromStart);
-    QTEST(applied(rule, InsertTextParameters{text, position, fromStart}, name), "expected");
+    QTEST(applied(InsertTextParameters{text, position, fromStart}, name), "expected");
 }
 
 void TestInsertText::ignoresTheFileIndex()
 {
     const InsertTextParameters parameters{u"x"_s, 1, true};
-    QCOMPARE(applied(rule, parameters, u"ab"_s, 0), u"axb"_s);
-    QCOMPARE(applied(rule, parameters, u"ab"_s, 12345), u"axb"_s);
+    QCOMPARE(applied(parameters, u"ab"_s, 0), u"axb"_s);
+    QCOMPARE(applied(parameters, u"ab"_s, 12345), u"axb"_s);
 }
 
 void TestInsertText::splitsASurrogatePairWhenThePositionFallsIntoIt()
 {
-    const QString result = applied(rule, InsertTextParameters{u"Z"_s, 1, true}, u"😀"_s);
+    const QString result = applied(InsertTextParameters{u"Z"_s, 1, true}, u"😀"_s);
     QCOMPARE(result.size(), 3);
     QVERIFY(result.at(0).isHighSurrogate());
     QCOMPARE(result.at(1), u'Z');
@@ -113,91 +99,17 @@ void TestInsertText::describesTextPositionAndDirection()
     QFETCH(QString, text);
     QFETCH(int, position);
     QFETCH(bool, fromStart);
-    QTEST(described(rule, InsertTextParameters{text, position, fromStart}), "expected");
+    QTEST(description(InsertTextParameters{text, position, fromStart}), "expected");
 }
 
 void TestInsertText::describesInTheCurrentLanguage()
 {
-    QCOMPARE(rule.name(), u"Insert Text"_s);
+    QCOMPARE(kindName(Kind::InsertText), u"Insert Text"_s);
     const BracketTranslator translator;
-    QCOMPARE(rule.name(), u"[Insert Text]"_s);
-    QCOMPARE(described(rule, InsertTextParameters{u"x"_s, 0, false}), u"'x' / [Position] 0 / [End]"_s);
-    QCOMPARE(described(rule, InsertTextParameters{u"x"_s, 7, true}), u"'x' / [Position] 7 / [Start]"_s);
+    QCOMPARE(kindName(Kind::InsertText), u"[Insert Text]"_s);
+    QCOMPARE(description(InsertTextParameters{u"x"_s, 0, false}), u"'x' / [Position] 0 / [End]"_s);
+    QCOMPARE(description(InsertTextParameters{u"x"_s, 7, true}), u"'x' / [Position] 7 / [Start]"_s);
 }
 
-void TestInsertText::editorHasItsWidgetsInOrder()
-{
-    QWidget parent;
-    const QWidget *editor = rule.createEditor(&parent);
-    QCOMPARE(editor->parentWidget(), &parent);
-    QVERIFY(qobject_cast<const RuleWidget *>(editor));
-    QVERIFY(!editor->isWindow());
-    const QStringList expected{u"QLineEdit"_s,        u"QSpinBox"_s,    u"QRadioButton:Start"_s,
-                               u"QRadioButton:End"_s, u"QLabel:Text"_s, u"QLabel:Position"_s,
-                               u"QLabel:Direction"_s};
-    QCOMPARE(childLines(*editor), expected);
-}
-
-void TestInsertText::editorStartsWithItsInitialValues()
-{
-    const RuleWidgetInsertText editor(nullptr);
-    QCOMPARE(editor.lineEditText->text(), QString());
-    QCOMPARE(editor.spinBoxPosition->minimum(), 0);
-    QCOMPARE(editor.spinBoxPosition->maximum(), 512);
-    QCOMPARE(editor.spinBoxPosition->value(), 0);
-    QVERIFY(editor.direction.radioButtonStart->isChecked());
-    QVERIFY(!editor.direction.radioButtonEnd->isChecked());
-}
-
-void TestInsertText::editorLaysOutItsWidgets()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    const QStringList expected{u"0,0 QLabel:Text"_s,
-                               u"0,1 QLineEdit"_s,
-                               u"1,0 spacer 16x16 Fixed Minimum"_s,
-                               u"2,0 QLabel:Position"_s,
-                               u"2,1 QSpinBox"_s,
-                               u"3,0 QLabel:Direction"_s,
-                               u"3,1 QHBoxLayout(QRadioButton:Start, QRadioButton:End)"_s};
-    QCOMPARE(gridLines(*editor), expected);
-}
-
-void TestInsertText::editorFollowsTheLanguage()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    verifyFollowsLanguage(*editor);
-    verifyAcceptsLanguageChange(*editor);
-}
-
-void TestInsertText::createDataReadsTheEditor()
-{
-    RuleWidgetInsertText editor(nullptr);
-    editor.lineEditText->setText(u"Ж 😀"_s);
-    editor.spinBoxPosition->setValue(512);
-    editor.direction.radioButtonEnd->setChecked(true);
-    const auto parameters = captured<InsertTextParameters>(rule, editor);
-    QCOMPARE(parameters.text, u"Ж 😀"_s);
-    QCOMPARE(parameters.position, 512);
-    QVERIFY(!parameters.fromStart);
-
-    editor.direction.radioButtonStart->setChecked(true);
-    QVERIFY(captured<InsertTextParameters>(rule, editor).fromStart);
-    QVERIFY(!parameters.fromStart);
-}
-
-void TestInsertText::createDataWithoutAnEditorIsNull()
-{
-    QCOMPARE(rule.createData(nullptr), nullptr);
-}
-
-void TestInsertText::directionsExcludeEachOther()
-{
-    const RuleWidgetInsertText editor(nullptr);
-    editor.direction.radioButtonEnd->setChecked(true);
-    QVERIFY(!editor.direction.radioButtonStart->isChecked());
-    editor.direction.radioButtonStart->setChecked(true);
-    QVERIFY(!editor.direction.radioButtonEnd->isChecked());
-}
-
-QTEST_MAIN(TestInsertText)
+QTEST_GUILESS_MAIN(TestInsertText)
 #include "tst_inserttext.moc"

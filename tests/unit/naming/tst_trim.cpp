@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/ruletrim.h"
-#include "unit/support/editors.h"
-
-#include <QRadioButton>
-#include <QSpinBox>
+#include "unit/naming/applied.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +17,6 @@ private slots:
     void freshParametersAreZeroOneStart();
     void describesPositionLengthAndDirection();
     void describesInTheCurrentLanguage();
-    void editorHasItsWidgetsInOrder();
-    void editorStartsWithItsInitialValues();
-    void editorLaysOutItsWidgets();
-    void editorFollowsTheLanguage();
-    void createDataReadsTheEditor();
-    void createDataWithoutAnEditorIsNull();
-
-private:
-    RuleTrim rule;
 };
 
 void TestTrim::removesTheRun_data()
@@ -77,8 +64,8 @@ void TestTrim::removesTheRun()
     QFETCH(int, position);
     QFETCH(int, length);
     QFETCH(bool, fromStart);
-    QTEST(applied(rule, TrimParameters{position, length, fromStart}, name), "expected");
-    QTEST(applied(rule, TrimParameters{position, length, fromStart}, name, 77), "expected");
+    QTEST(applied(TrimParameters{position, length, fromStart}, name), "expected");
+    QTEST(applied(TrimParameters{position, length, fromStart}, name, 77), "expected");
 }
 
 void TestTrim::fromTheEndTheNameLosesItsLastCharactersWhateverThePosition()
@@ -86,13 +73,13 @@ void TestTrim::fromTheEndTheNameLosesItsLastCharactersWhateverThePosition()
     const QString name = u"0123456789"_s;
     for (int length = 1; length <= 10; ++length) {
         for (int position = 0; position + length <= 10; ++position)
-            QCOMPARE(applied(rule, TrimParameters{position, length, false}, name), name.chopped(length));
+            QCOMPARE(applied(TrimParameters{position, length, false}, name), name.chopped(length));
     }
 }
 
 void TestTrim::cutsASurrogatePairInTwo()
 {
-    const QString result = applied(rule, TrimParameters{0, 1, true}, u"😀"_s);
+    const QString result = applied(TrimParameters{0, 1, true}, u"😀"_s);
     QCOMPARE(result.size(), 1);
     QVERIFY(result.at(0).isLowSurrogate());
 }
@@ -107,82 +94,19 @@ void TestTrim::freshParametersAreZeroOneStart()
 
 void TestTrim::describesPositionLengthAndDirection()
 {
-    QCOMPARE(described(rule, TrimParameters{0, 3, true}), u"0 - 3 / Start"_s);
-    QCOMPARE(described(rule, TrimParameters{2, 5, false}), u"2 - 5 / End"_s);
-    QCOMPARE(described(rule, TrimParameters{512, 512, false}), u"512 - 512 / End"_s);
+    QCOMPARE(description(TrimParameters{0, 3, true}), u"0 - 3 / Start"_s);
+    QCOMPARE(description(TrimParameters{2, 5, false}), u"2 - 5 / End"_s);
+    QCOMPARE(description(TrimParameters{512, 512, false}), u"512 - 512 / End"_s);
 }
 
 void TestTrim::describesInTheCurrentLanguage()
 {
-    QCOMPARE(rule.name(), u"Trim"_s);
+    QCOMPARE(kindName(Kind::Trim), u"Trim"_s);
     const BracketTranslator translator;
-    QCOMPARE(rule.name(), u"[Trim]"_s);
-    QCOMPARE(described(rule, TrimParameters{2, 5, false}), u"2 - 5 / [End]"_s);
-    QCOMPARE(described(rule, TrimParameters{2, 5, true}), u"2 - 5 / [Start]"_s);
+    QCOMPARE(kindName(Kind::Trim), u"[Trim]"_s);
+    QCOMPARE(description(TrimParameters{2, 5, false}), u"2 - 5 / [End]"_s);
+    QCOMPARE(description(TrimParameters{2, 5, true}), u"2 - 5 / [Start]"_s);
 }
 
-void TestTrim::editorHasItsWidgetsInOrder()
-{
-    QWidget parent;
-    const QWidget *editor = rule.createEditor(&parent);
-    QCOMPARE(editor->parentWidget(), &parent);
-    const QStringList expected{u"QSpinBox"_s,         u"QSpinBox"_s,        u"QRadioButton:Start"_s,
-                               u"QRadioButton:End"_s, u"QLabel:Position"_s, u"QLabel:Length"_s,
-                               u"QLabel:Direction"_s};
-    QCOMPARE(childLines(*editor), expected);
-}
-
-void TestTrim::editorStartsWithItsInitialValues()
-{
-    const RuleWidgetTrim editor(nullptr);
-    QCOMPARE(editor.spinBoxPosition->minimum(), 0);
-    QCOMPARE(editor.spinBoxPosition->maximum(), 512);
-    QCOMPARE(editor.spinBoxPosition->value(), 0);
-    QCOMPARE(editor.spinBoxLength->minimum(), 1);
-    QCOMPARE(editor.spinBoxLength->maximum(), 512);
-    QCOMPARE(editor.spinBoxLength->value(), 1);
-    QVERIFY(editor.direction.radioButtonStart->isChecked());
-    QVERIFY(!editor.direction.radioButtonEnd->isChecked());
-}
-
-void TestTrim::editorLaysOutItsWidgets()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    const QStringList expected{u"0,0 QLabel:Position"_s,
-                               u"0,1 QSpinBox"_s,
-                               u"1,0 QLabel:Length"_s,
-                               u"1,1 QSpinBox"_s,
-                               u"2,0 QLabel:Direction"_s,
-                               u"2,1 QHBoxLayout(QRadioButton:Start, QRadioButton:End)"_s,
-                               u"3,0 spacer 20x20 Preferred Expanding"_s};
-    QCOMPARE(gridLines(*editor), expected);
-}
-
-void TestTrim::editorFollowsTheLanguage()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    verifyFollowsLanguage(*editor);
-    verifyAcceptsLanguageChange(*editor);
-}
-
-void TestTrim::createDataReadsTheEditor()
-{
-    const RuleWidgetTrim editor(nullptr);
-    editor.spinBoxPosition->setValue(7);
-    editor.spinBoxLength->setValue(9);
-    editor.direction.radioButtonEnd->setChecked(true);
-    const auto parameters = captured<TrimParameters>(rule, editor);
-    QCOMPARE(parameters.position, 7);
-    QCOMPARE(parameters.length, 9);
-    QVERIFY(!parameters.fromStart);
-    editor.direction.radioButtonStart->setChecked(true);
-    QVERIFY(captured<TrimParameters>(rule, editor).fromStart);
-}
-
-void TestTrim::createDataWithoutAnEditorIsNull()
-{
-    QCOMPARE(rule.createData(nullptr), nullptr);
-}
-
-QTEST_MAIN(TestTrim)
+QTEST_GUILESS_MAIN(TestTrim)
 #include "tst_trim.moc"

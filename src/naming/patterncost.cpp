@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/patterncost.h"
+#include "naming/patterncost.h"
 
 #include <QMultiMap>
 #include <QRandomGenerator>
@@ -13,6 +13,13 @@
 #include <ctime>
 
 using namespace Qt::StringLiterals;
+
+// The way of a pattern, which docs/patterns.md tells the reasons of:
+// - PatternReader follows the engine's parser through it, and adds up in a Part for each of its parts what
+// the
+//   automaton would amount to (inSequence, eitherOf, repeated, check). patternCost() is what comes out.
+// - Where that decides nothing, adverseNames() makes the names that such a pattern may take longest for, and
+//   isQuickEnough() has them searched, longer from time to time, with a clock beside it.
 
 namespace {
 
@@ -36,13 +43,15 @@ constexpr double maxCaptureCells = 1e7;
 constexpr double fewEdges = 300;
 constexpr double edgesOfALoop = fewEdges - 20;
 
-/// What the engine's automaton for a part of the pattern amounts to. No product of counts overflows double.
+/// What the engine's automaton for a part of the pattern amounts to: the states that a match may begin and
+/// end with, the transitions with what else takes time to compile, and the ways in which anchors may hold
+/// where no character is matched. No product of counts overflows double.
 struct Part
 {
-    double first = 0; ///< states that a match may begin with
-    double last = 0;  ///< states that a match may end with
-    double edges = 1; ///< transitions, and what else takes time to compile
-    double ways = 1;  ///< for anchors to hold where no character is matched
+    double first = 0;
+    double last = 0;
+    double edges = 1;
+    double ways = 1;
     bool isNullable = true;
 };
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/insertion.h"
+#include "naming/insertion.h"
 
 QString insertedInto(QString name, const QString &text, int position, bool fromStart)
 {

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/regexp.h"
+#include "naming/regexp.h"
 
-#include "rules/patterncost.h"
+#include "naming/patterncost.h"
 
 #include <QHash>
 #include <QRegExp>

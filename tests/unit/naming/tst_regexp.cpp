@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/regexp.h"
+#include "naming/regexp.h"
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/rulechangecase.h"
-#include "unit/support/editors.h"
+#include "naming/regexp.h"
+#include "unit/naming/applied.h"
 
-#include <QCheckBox>
 #include <QFileInfo>
-#include <QRadioButton>
 #include <QRandomGenerator>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -54,15 +51,6 @@ private slots:
     void ignoresTheFileIndex();
     void lowerIsListedAsUppercaseAndUpperAsLowercase();
     void describesInTheCurrentLanguage();
-    void editorHasItsWidgetsInOrder();
-    void editorStartsWithItsInitialValues();
-    void editorLaysOutItsWidgets();
-    void editorFollowsTheLanguage();
-    void createDataReadsTheEditor();
-    void createDataWithoutAnEditorIsNull();
-
-private:
-    RuleChangeCase rule;
 };
 
 void TestChangeCase::changesTheCase_data()
@@ -113,7 +101,7 @@ void TestChangeCase::changesTheCase()
     QFETCH(QString, name);
     QFETCH(int, chosen);
     QFETCH(bool, ignoreExtension);
-    QTEST(applied(rule, parametersFor(chosen, ignoreExtension), name), "expected");
+    QTEST(applied(parametersFor(chosen, ignoreExtension), name), "expected");
 }
 
 void TestChangeCase::usesTheExtensionUnescaped_data()
@@ -141,7 +129,7 @@ void TestChangeCase::usesTheExtensionUnescaped_data()
 void TestChangeCase::usesTheExtensionUnescaped()
 {
     QFETCH(QString, name);
-    QTEST(applied(rule, parametersFor(Lower, true), name), "expected");
+    QTEST(applied(parametersFor(Lower, true), name), "expected");
 }
 
 /// A file from elsewhere may be named like this: the window froze, or the memory was used up.
@@ -160,7 +148,7 @@ void TestChangeCase::extensionOfTooGreatACostIsLikeAnInvalidOne()
 {
     QFETCH(QString, extension);
     const QString name = u"A"_s.repeated(200) + u'.' + extension;
-    QCOMPARE(applied(rule, parametersFor(Lower, true), name), name.toLower() + u'.' + extension);
+    QCOMPARE(applied(parametersFor(Lower, true), name), name.toLower() + u'.' + extension);
 }
 
 void TestChangeCase::nameWithoutDotLosesItsLastCharacterAndGetsADot_data()
@@ -180,7 +168,7 @@ void TestChangeCase::nameWithoutDotLosesItsLastCharacterAndGetsADot()
 {
     QFETCH(QString, name);
     QFETCH(int, chosen);
-    QTEST(applied(rule, parametersFor(chosen, true), name), "expected");
+    QTEST(applied(parametersFor(chosen, true), name), "expected");
 }
 
 // A rule before this one parted a character, and one behind it may join its halves again.
@@ -206,9 +194,9 @@ void TestChangeCase::keepsHalvesOfCharacters()
 {
     QFETCH(QString, name);
     QFETCH(int, chosen);
-    QTEST(applied(rule, parametersFor(chosen, false), name), "expected");
+    QTEST(applied(parametersFor(chosen, false), name), "expected");
     QFETCH(QString, expected);
-    QCOMPARE(applied(rule, parametersFor(chosen, true), name + u".X\xD83C"_s), expected + u".X\xD83C"_s);
+    QCOMPARE(applied(parametersFor(chosen, true), name + u".X\xD83C"_s), expected + u".X\xD83C"_s);
 }
 
 void TestChangeCase::letterOutsideLatin1CountsAsNoLetter_data()
@@ -229,20 +217,20 @@ void TestChangeCase::letterOutsideLatin1CountsAsNoLetter_data()
 void TestChangeCase::letterOutsideLatin1CountsAsNoLetter()
 {
     QFETCH(QString, name);
-    QTEST(applied(rule, parametersFor(FirstLetters, false), name), "expected");
+    QTEST(applied(parametersFor(FirstLetters, false), name), "expected");
 }
 
 void TestChangeCase::lowerGoesBeforeUpperAndFirstLettersBeforeBoth()
 {
-    QCOMPARE(applied(rule, ChangeCaseParameters{true, true, true, false}, u"aB cD"_s), u"AB CD"_s);
-    QCOMPARE(applied(rule, ChangeCaseParameters{true, false, true, false}, u"aB cD"_s), u"AB CD"_s);
-    QCOMPARE(applied(rule, ChangeCaseParameters{false, true, true, false}, u"aB cD"_s), u"ab cd"_s);
+    QCOMPARE(applied(ChangeCaseParameters{true, true, true, false}, u"aB cD"_s), u"AB CD"_s);
+    QCOMPARE(applied(ChangeCaseParameters{true, false, true, false}, u"aB cD"_s), u"AB CD"_s);
+    QCOMPARE(applied(ChangeCaseParameters{false, true, true, false}, u"aB cD"_s), u"ab cd"_s);
 }
 
 void TestChangeCase::withoutAChoiceTheNameIsLost()
 {
-    QCOMPARE(applied(rule, parametersFor(None, false), u"Name.Txt"_s), QString());
-    QCOMPARE(applied(rule, parametersFor(None, true), u"Name.Txt"_s), u".Txt"_s);
+    QCOMPARE(applied(parametersFor(None, false), u"Name.Txt"_s), QString());
+    QCOMPARE(applied(parametersFor(None, true), u"Name.Txt"_s), u".Txt"_s);
 }
 
 // Most extensions are cut off without compiling a pattern; the result must not tell.
@@ -258,102 +246,39 @@ void TestChangeCase::plainExtensionsGiveWhatThePatternGives()
         const QString name = random(generator, alphabet);
         const QString extension = QFileInfo(name).suffix();
         const QString stem = RegExp(u'.' + extension + u'$').removedFrom(name);
-        QCOMPARE(applied(rule, parametersFor(Lower, true), name), stem.toLower() + u'.' + extension);
-        QCOMPARE(applied(rule, parametersFor(Upper, true), name), stem.toUpper() + u'.' + extension);
-        QCOMPARE(applied(rule, parametersFor(FirstLetters, true), name),
-                 applied(rule, parametersFor(FirstLetters, false), stem) + u'.' + extension);
+        QCOMPARE(applied(parametersFor(Lower, true), name), stem.toLower() + u'.' + extension);
+        QCOMPARE(applied(parametersFor(Upper, true), name), stem.toUpper() + u'.' + extension);
+        QCOMPARE(applied(parametersFor(FirstLetters, true), name),
+                 applied(parametersFor(FirstLetters, false), stem) + u'.' + extension);
     }
 }
 
 void TestChangeCase::ignoresTheFileIndex()
 {
-    QCOMPARE(applied(rule, parametersFor(Lower, true), u"A.TXT"_s, 99), u"a.TXT"_s);
+    QCOMPARE(applied(parametersFor(Lower, true), u"A.TXT"_s, 99), u"a.TXT"_s);
 }
 
 // Deliberate: the two texts are crossed over in the rule list.
 void TestChangeCase::lowerIsListedAsUppercaseAndUpperAsLowercase()
 {
     for (const bool ignoreExtension : {false, true}) {
-        QCOMPARE(described(rule, parametersFor(Lower, ignoreExtension)), u"Uppercase letters"_s);
-        QCOMPARE(described(rule, parametersFor(Upper, ignoreExtension)), u"Lowercase letters"_s);
-        QCOMPARE(described(rule, parametersFor(FirstLetters, ignoreExtension)),
+        QCOMPARE(description(parametersFor(Lower, ignoreExtension)), u"Uppercase letters"_s);
+        QCOMPARE(description(parametersFor(Upper, ignoreExtension)), u"Lowercase letters"_s);
+        QCOMPARE(description(parametersFor(FirstLetters, ignoreExtension)),
                  u"Uppercase first letter of each word"_s);
-        QCOMPARE(described(rule, parametersFor(None, ignoreExtension)),
-                 u"Uppercase first letter of each word"_s);
+        QCOMPARE(description(parametersFor(None, ignoreExtension)), u"Uppercase first letter of each word"_s);
     }
 }
 
 void TestChangeCase::describesInTheCurrentLanguage()
 {
-    QCOMPARE(rule.name(), u"Change Case"_s);
+    QCOMPARE(kindName(Kind::ChangeCase), u"Change Case"_s);
     const BracketTranslator translator;
-    QCOMPARE(rule.name(), u"[Change Case]"_s);
-    QCOMPARE(described(rule, parametersFor(Lower, true)), u"[Uppercase letters]"_s);
-    QCOMPARE(described(rule, parametersFor(Upper, true)), u"[Lowercase letters]"_s);
-    QCOMPARE(described(rule, parametersFor(FirstLetters, true)), u"[Uppercase first letter of each word]"_s);
+    QCOMPARE(kindName(Kind::ChangeCase), u"[Change Case]"_s);
+    QCOMPARE(description(parametersFor(Lower, true)), u"[Uppercase letters]"_s);
+    QCOMPARE(description(parametersFor(Upper, true)), u"[Lowercase letters]"_s);
+    QCOMPARE(description(parametersFor(FirstLetters, true)), u"[Uppercase first letter of each word]"_s);
 }
 
-void TestChangeCase::editorHasItsWidgetsInOrder()
-{
-    QWidget parent;
-    const QWidget *editor = rule.createEditor(&parent);
-    QCOMPARE(editor->parentWidget(), &parent);
-    const QStringList expected{u"QRadioButton:Uppercase first letter of each word"_s,
-                               u"QRadioButton:Uppercase letters"_s, u"QRadioButton:Lowercase letters"_s,
-                               u"QCheckBox:Ignore File Extension"_s};
-    QCOMPARE(childLines(*editor), expected);
-}
-
-void TestChangeCase::editorStartsWithItsInitialValues()
-{
-    const RuleWidgetChangeCase editor(nullptr);
-    QVERIFY(!editor.radioButtonFirstLetters->isChecked());
-    QVERIFY(!editor.radioButtonUpper->isChecked());
-    QVERIFY(editor.radioButtonLower->isChecked());
-    QVERIFY(editor.checkBoxIgnoreExtension->isChecked());
-}
-
-void TestChangeCase::editorLaysOutItsWidgets()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    auto *layout = qobject_cast<QVBoxLayout *>(editor->layout());
-    QVERIFY(layout);
-    QStringList lines;
-    for (int i = 0; i < layout->count(); ++i)
-        lines.append(itemLine(layout->itemAt(i)));
-    const QStringList expected{u"QRadioButton:Lowercase letters"_s, u"QRadioButton:Uppercase letters"_s,
-                               u"QRadioButton:Uppercase first letter of each word"_s,
-                               u"spacer 8x8 Minimum Minimum"_s, u"QCheckBox:Ignore File Extension"_s};
-    QCOMPARE(lines, expected);
-}
-
-void TestChangeCase::editorFollowsTheLanguage()
-{
-    const std::unique_ptr<QWidget> editor(rule.createEditor(nullptr));
-    verifyFollowsLanguage(*editor);
-    verifyAcceptsLanguageChange(*editor);
-}
-
-void TestChangeCase::createDataReadsTheEditor()
-{
-    const RuleWidgetChangeCase editor(nullptr);
-    auto parameters = captured<ChangeCaseParameters>(rule, editor);
-    QVERIFY(!parameters.firstLetters && !parameters.upper && parameters.lower && parameters.ignoreExtension);
-
-    editor.radioButtonUpper->setChecked(true);
-    editor.checkBoxIgnoreExtension->setChecked(false);
-    parameters = captured<ChangeCaseParameters>(rule, editor);
-    QVERIFY(!parameters.firstLetters && parameters.upper && !parameters.lower && !parameters.ignoreExtension);
-
-    editor.radioButtonFirstLetters->setChecked(true);
-    parameters = captured<ChangeCaseParameters>(rule, editor);
-    QVERIFY(parameters.firstLetters && !parameters.upper && !parameters.lower && !parameters.ignoreExtension);
-}
-
-void TestChangeCase::createDataWithoutAnEditorIsNull()
-{
-    QCOMPARE(rule.createData(nullptr), nullptr);
-}
-
-QTEST_MAIN(TestChangeCase)
+QTEST_GUILESS_MAIN(TestChangeCase)
 #include "tst_changecase.moc"

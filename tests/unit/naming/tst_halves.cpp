@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/rule.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
+#include "unit/naming/applied.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
-#include <memory>
+#include <algorithm>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -120,57 +117,40 @@ class TestHalves final : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void everyChainKeepsEveryHalf();
 
 private:
     /// Lets one random rule of the program and its model work on the same name.
-    void step(RandomTexts &random, QString *name, Units *model) const;
-    template <typename Parameters>
-    [[nodiscard]] QString applied(size_t kind, const Parameters &parameters, const QString &name) const
-    {
-        const RuleData data{rules.at(kind).get(), parameters};
-        return applyRuleChain(&data, name, 0);
-    }
-
-    std::vector<std::unique_ptr<Rule>> rules;
+    static void step(RandomTexts &random, QString *name, Units *model);
 };
 
-void TestHalves::initTestCase()
-{
-    const QList<RuleFactory *> factories = createRuleFactories();
-    for (const RuleFactory *factory : factories)
-        rules.emplace_back(factory->create());
-    qDeleteAll(factories);
-}
-
-void TestHalves::step(RandomTexts &random, QString *name, Units *model) const
+void TestHalves::step(RandomTexts &random, QString *name, Units *model)
 {
     switch (random.below(4)) {
     case 0: {
         const bool isJoining = random.below(2) == 0;
         const ReplaceParameters parameters{isJoining ? u"-"_s : random.text(1),
-                                           isJoining ? QString() : random.text(2), false, RegExp()};
-        *name = applied(0, parameters, *name);
+                                           isJoining ? QString() : random.text(2), false};
+        *name = applied(parameters, *name);
         *model = afterReplace(*model, parameters);
         break;
     }
     case 1: {
         const TrimParameters parameters{random.below(6), 1 + random.below(3), true};
-        *name = applied(1, parameters, *name);
+        *name = applied(parameters, *name);
         *model = afterTrim(*model, parameters);
         break;
     }
     case 2: {
         const bool isUpper = random.below(2) == 0;
         const ChangeCaseParameters parameters{false, isUpper, !isUpper, false};
-        *name = applied(2, parameters, *name);
+        *name = applied(parameters, *name);
         *model = afterChangeCase(*model, parameters);
         break;
     }
     default: {
         const InsertTextParameters parameters{u"\U0001F389"_s + random.text(2), random.below(8), true};
-        *name = applied(3, parameters, *name);
+        *name = applied(parameters, *name);
         *model = afterInsert(*model, parameters);
         break;
     }
