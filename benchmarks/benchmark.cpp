@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -111,7 +112,14 @@ void measureEditing(Bench &bench, const FileTree &tree)
     preview->setChecked(true);
     printRow("refresh the preview, three rules", tree.count,
              secondsOf([&] { bench.window.on_buttonPreview_clicked(); }));
-    printRow("  the layout after it", tree.count, secondsOf([] { QCoreApplication::processEvents(); }));
+    const auto *figures = bench.window.findChild<QLabel *>(u"labelForecast"_s);
+    const QString checking = figures->text();
+    PauseMeter pauses;
+    printRow("  all names and fates, in slices", tree.count, secondsOf([&] {
+                 while (figures->text() == checking)
+                     QCoreApplication::processEvents();
+             }));
+    printPause(tree.count, pauses);
     preview->setChecked(false);
     bench.window.on_buttonPreview_clicked();
     QCoreApplication::processEvents();

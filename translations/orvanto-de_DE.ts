@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Nicht umbenannt: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Details anzeigen…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Nicht umbenannt</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Sin renombrar: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Mostrar detalles…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Archivos sin renombrar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nombre nuevo</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

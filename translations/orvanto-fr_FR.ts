@@ -273,15 +273,15 @@
     </message>
     <message>
         <source>%1, %2 selected</source>
-        <translation>%1, sélection : %2</translation>
+        <translation>%1, sélection&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot</source>
-        <translation>%1 : %2 à renommer, %3, %4 en échec</translation>
+        <translation>%1&#xa0;: %2 à renommer, %3, %4 en échec</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
-        <translation>%1 : %2 à renommer, %3, %4 en échec, %5 sans certitude</translation>
+        <translation>%1&#xa0;: %2 à renommer, %3, %4 en échec, %5 sans certitude</translation>
     </message>
     <message>
         <source>Keeps its name.</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Stays: %1.</source>
-        <translation>Reste tel quel : %1.</translation>
+        <translation>Reste tel quel&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Moves to the folder %1.</source>
@@ -305,7 +305,35 @@
     </message>
     <message>
         <source>Not renamed: %1.</source>
-        <translation>Non renommé : %1.</translation>
+        <translation>Non renommé&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Afficher les détails…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Fichiers non renommés</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nouveau nom</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>

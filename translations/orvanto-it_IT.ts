@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Non rinominato: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Mostra dettagli…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>File non rinominati</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nuovo nome</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>変更できませんでした：%1。</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>詳細を表示…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>変更されなかったファイル</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新しい名前</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Niet hernoemd: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Details tonen…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Niet hernoemd</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nieuwe naam</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

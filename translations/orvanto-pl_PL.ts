@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Nie zmieniono nazwy: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Pokaż szczegóły…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Pliki bez zmienionej nazwy</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nowa nazwa</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

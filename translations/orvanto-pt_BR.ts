@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Não renomeado: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Mostrar detalhes…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Arquivos não renomeados</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Novo nome</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

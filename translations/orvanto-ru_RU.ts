@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Не переименован: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Показать подробности…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Не переименованы</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Новое имя</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

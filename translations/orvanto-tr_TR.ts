@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Yeniden adlandırılmadı: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Ayrıntıları göster…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Yeniden adlandırılmayanlar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Yeni ad</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopyala</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>Не перейменовано: %1.</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>Показати подробиці…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>Не перейменовано</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Назва</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Нова назва</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копіювати</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

@@ -307,6 +307,34 @@
         <source>Not renamed: %1.</source>
         <translation>未重命名：%1。</translation>
     </message>
+    <message>
+        <source>Show details…</source>
+        <translation>显示详情…</translation>
+    </message>
+    <message>
+        <source>Not Renamed</source>
+        <translation>未重命名的文件</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新名称</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

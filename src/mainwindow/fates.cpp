@@ -53,6 +53,15 @@ Fates::Fates(ListWidgetFiles &listToRefresh, const QAbstractButton &previewButto
     list.window()->installEventFilter(this);
 }
 
+void Fates::showFailures(const Failures &failures)
+{
+    for (const Failure &failure : failures) {
+        if (FileItem *item = list.fileItem(failure.row))
+            item->tell(failure.outcome, true);
+    }
+    list.viewport()->update();
+}
+
 bool Fates::areForetold() const
 {
     return preview.isChecked() && list.count() > 0;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "mainwindow/failures.h"
 #include "mainwindow/fatetexts.h"
 #include "mainwindow/rownames.h"
 #include "run/forecast.h"
@@ -41,6 +42,9 @@ public:
 
     /// Null when no refresh is in hand.
     [[nodiscard]] std::shared_ptr<const RowNames> refreshedNames() const { return names; }
+
+    /// After a run's refresh, and until the next: says why rows were not renamed.
+    void showFailures(const Failures &failures);
 
     /// Whether rows are told what becomes of them.
     [[nodiscard]] bool areForetold() const;

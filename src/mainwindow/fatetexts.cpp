@@ -140,6 +140,31 @@ QString groupText(Fate reason, int count)
                                      : QString::number(count) + ": "_L1 + reasonText(reason);
 }
 
+QString showDetailsText()
+{
+    return Fates::tr("Show details…");
+}
+
+QString detailsTitle()
+{
+    return Fates::tr("Not Renamed");
+}
+
+QStringList detailsHeadings()
+{
+    return {Fates::tr("Name"), Fates::tr("New name"), Fates::tr("Folder")};
+}
+
+QString copyText()
+{
+    return Fates::tr("Copy");
+}
+
+QString closeText()
+{
+    return Fates::tr("Close");
+}
+
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? "<qt>"_L1 + text.toHtmlEscaped() + "</qt>"_L1 : text;

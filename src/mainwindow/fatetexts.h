@@ -6,7 +6,7 @@
 #include "run/filepath.h"
 #include "run/outcome.h"
 
-#include <QString>
+#include <QStringList>
 
 // What becomes of rows, in words.
 
@@ -36,6 +36,13 @@ struct FateCounts
 [[nodiscard]] QString pastSentence(const Outcome &outcome);
 /// "2: the name is taken"
 [[nodiscard]] QString groupText(Fate reason, int count);
+
+// Of the details of a report.
+[[nodiscard]] QString showDetailsText();
+[[nodiscard]] QString detailsTitle();
+[[nodiscard]] QStringList detailsHeadings();
+[[nodiscard]] QString copyText();
+[[nodiscard]] QString closeText();
 
 /// As a tool tip that shows markup as it is.
 [[nodiscard]] QString plainToolTip(const QString &text);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "run/filepath.h"
+#include "mainwindow/failures.h"
 
 #include <QMainWindow>
 #include <QMap>
@@ -111,9 +111,9 @@ private:
     void moveFile(int from, int to);
 
     [[nodiscard]] QString newName(const QString &name, int row) const;
-    void renameAll(RenameRun &run, ProgressDialog &dialog);
-    void renameRow(RenameRun &run, int row);
-    void showReport(const RenameRun &run);
+    [[nodiscard]] Failures renameAll(RenameRun &run, ProgressDialog &dialog);
+    void renameRow(RenameRun &run, int row, Failures &failures);
+    void showReport(const RenameRun &run, const Failures &failures);
 
     std::unique_ptr<Ui::MainWindow> ui;
     FilePaths filePaths;

@@ -64,18 +64,20 @@ void MainWindow::on_buttonRename_clicked()
     ui->buttonPreview->setChecked(false);
     SystemDisk disk;
     RenameRun run(disk);
-    renameAll(run, dialog);
+    const Failures failures = renameAll(run, dialog);
     dialog.close();
     on_buttonPreview_clicked();
-    showReport(run);
+    fates->showFailures(failures);
+    showReport(run, failures);
 }
 
-void MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
+Failures MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
 {
+    Failures failures;
     const SelectionKept selection(*explorer, *ui->listWidgetFiles);
     while (run.handled() < ui->listWidgetFiles->count()) {
         const int row = run.handled();
-        renameRow(run, row);
+        renameRow(run, row, failures);
         dialog.setProgress(row);
         if (dialog.isHidden()) {
             run.cancel();
@@ -83,20 +85,24 @@ void MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
         }
         QCoreApplication::processEvents();
     }
+    return failures;
 }
 
-void MainWindow::renameRow(RenameRun &run, int row)
+void MainWindow::renameRow(RenameRun &run, int row, Failures &failures)
 {
     const FilePath file = filePaths.split(ui->listWidgetFiles->path(row));
     const QString name = file.name();
     const Outcome outcome = run.next(file, newName(name, row));
-    if (outcome.isRenamed())
+    if (outcome.isRenamed()) {
         ui->listWidgetFiles->setPath(row, outcome.path);
-    else
-        AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
+        return;
+    }
+    AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
+    qDebug("not renamed: %s", qPrintable(idOf(outcome.reason)));
+    failures.append({row, file, outcome});
 }
 
-void MainWindow::showReport(const RenameRun &run)
+void MainWindow::showReport(const RenameRun &run, const Failures &failures)
 {
     const QString report = tr("Total") + u' ' + QString::number(ui->listWidgetFiles->count()) + u'\n' +
                            tr("Processed") + u' ' + QString::number(run.processed()) + u'\n' + tr("Failed") +
@@ -108,5 +114,6 @@ void MainWindow::showReport(const RenameRun &run)
     box.setText(report);
     AppLog::instance()->append(QString(report).replace(u'\n', u' '));
     addCloseButton(&box, tr("Close"));
+    addDetailsButton(&box, failures);
     box.exec();
 }

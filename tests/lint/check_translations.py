@@ -22,7 +22,7 @@ SAME = {
     "it_IT": {"1 file", "Debug", "OK", "Ctrl"},
     "ja_JP": {"OK", "Ctrl", "Shift"},
     "nl_NL": {"Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
-    "pl_PL": {"OK", "Ctrl", "Shift"},
+    "pl_PL": {"Folder", "OK", "Ctrl", "Shift"},
     "pt_BR": {"Plugins", "Total", "OK", "Ctrl", "Shift"},
     "ru_RU": {"Ctrl", "Shift"},
     "tr_TR": {"Ctrl", "Shift"},
