@@ -84,6 +84,8 @@ void addDetailsButton(QMessageBox *box, const Failures &failures)
     QPushButton *button = box->addButton(showDetailsText(), QMessageBox::ActionRole);
     button->setIcon(QIcon(u":/img/glass.png"_s));
     button->setIconSize({24, 24});
+    // Enter closes the box also when this button was clicked last.
+    button->setAutoDefault(false);
     // Every button of a message box closes it.
     QObject::disconnect(button, &QPushButton::clicked, nullptr, nullptr);
     QObject::connect(button, &QPushButton::clicked, box, [box, &failures] { showDetails(failures, box); });

@@ -17,10 +17,11 @@ namespace {
 constexpr int markMargin = 2;     // pixels on both sides
 constexpr int oldNameMargin = 16; // pixels on both sides
 
-QColor between(const QColor &first, const QColor &second)
+/// A part of the first, in percent, and the rest of the second.
+QColor mixed(const QColor &first, int part, const QColor &second)
 {
-    const auto mix = [](int from, int to) {
-        return (from * 11 + to * 9) / 20;
+    const auto mix = [part](int from, int to) {
+        return (from * part + to * (100 - part)) / 100;
     };
     return {mix(first.red(), second.red()), mix(first.green(), second.green()),
             mix(first.blue(), second.blue())};
@@ -95,8 +96,8 @@ void FileItemDelegate::paintMarkOf(const QModelIndex &index, QPainter *painter,
                                                  : QPalette::Base));
     style->drawPrimitive(QStyle::PE_PanelItemViewRow, &row, painter, view);
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &row, painter, view);
-    const int size = end.height() - 2;
-    paintMark(painter, QRectF(end.right() - markMargin - size, end.top() + 1, size, size),
+    const int size = end.height();
+    paintMark(painter, QRectF(end.right() - markMargin - size, end.top(), size, size),
               static_cast<FateMark>(index.data(FileItem::MarkRole).toInt()));
     painter->restore();
 }
@@ -122,8 +123,8 @@ void FileItemDelegate::paintOldName(const QString &name, QPainter *painter,
     };
     painter->save();
     painter->setFont(row.font);
-    painter->setPen(isSelected ? between(color(QPalette::HighlightedText), color(QPalette::Highlight))
-                               : between(color(QPalette::Text), color(QPalette::Base)));
+    painter->setPen(isSelected ? mixed(color(QPalette::HighlightedText), 75, color(QPalette::Highlight))
+                               : mixed(color(QPalette::Text), 60, color(QPalette::Base)));
     painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
     painter->restore();
 }
