@@ -124,6 +124,8 @@ private:
     QSystemTrayIcon *trayIcon = nullptr;
     /// Runs while the window is in the tray; belongs to its icon.
     QTimer *trayWatch = nullptr;
+    /// As saveGeometry() tells it; empty while the window is not in the tray.
+    QByteArray placeBeforeTray;
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     Explorer *explorer = nullptr;

@@ -123,6 +123,7 @@ void MainWindow::onRestoreWindow()
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     if (trayWatch)
         trayWatch->stop();
+    placeBeforeTray.clear();
     if (isMaximized())
         show();
     else
@@ -137,6 +138,9 @@ void MainWindow::minimizeWindow()
         showMinimized();
         return;
     }
+    // The native window that is made anew stands where the frame of the old one did.
+    if (placeBeforeTray.isEmpty())
+        placeBeforeTray = saveGeometry();
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     if (QWindow *window = windowHandle()) {
@@ -223,8 +227,10 @@ void MainWindow::saveWindowSettings()
     settings->setValue(SettingKey::LogSave, ui->checkBoxSaveLog->isChecked());
     settings->setValue(SettingKey::WindowStayOnTop, windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     settings->setValue(SettingKey::WindowOpacity, roundedToTwoDecimals(windowOpacity()));
-    if (settings->value(SettingKey::WindowGeometryRestore, false).toBool())
-        settings->setValue(SettingKey::WindowGeometryData, QString::fromLatin1(saveGeometry().toHex()));
+    if (settings->value(SettingKey::WindowGeometryRestore, false).toBool()) {
+        const QByteArray place = placeBeforeTray.isEmpty() ? saveGeometry() : placeBeforeTray;
+        settings->setValue(SettingKey::WindowGeometryData, QString::fromLatin1(place.toHex()));
+    }
     if (settings->value(SettingKey::WindowLayoutRestore, false).toBool())
         settings->setValue(SettingKey::WindowLayoutData, QString::fromLatin1(saveState(0).toHex()));
     settings->setValue(SettingKey::MiscIsFirstStart, false);

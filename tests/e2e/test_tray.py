@@ -10,8 +10,8 @@ from harness.mainwindow import MainWindow
 from harness.program import SETTLED, Program
 from harness.settingsdialog import SettingsDialog
 from harness.tray import QUIT, RESTORE, Tray
-from harness.waiting import until, until_still
-from harness.xwindows import is_iconic, opacity
+from harness.waiting import until, until_equal, until_still
+from harness.xwindows import is_iconic, opacity, place
 
 
 class TrayCase(Case):
@@ -29,6 +29,9 @@ class TrayCase(Case):
     def expect_back(self, window):
         until(lambda: self.program.x_window("Orvanto"), "the main window to be back")
         until(lambda: window.frame.has("showing") and window.frame.has("active"), "the main window to be active")
+
+    def place(self):
+        return place(self.desktop, until(lambda: self.program.x_window("Orvanto"), "the main window"))
 
     def minimize_to_the_task_bar(self):
         number = self.program.x_window("Orvanto")
@@ -127,6 +130,40 @@ class InTheTray(TrayCase):
         self.assertEqual((self.program.stdout, self.program.stderr), ("", ""))
         settings = self.program.settings()
         self.assertEqual((settings["Log.Save"], settings.get("SupportUsHint")), ("true", "true"))
+
+    def test_quit_by_the_menu_keeps_the_place(self):
+        self.start_with_tray(ShowTrayiconHint="false", Window__Geometry__Restore="true")
+        number = until(lambda: self.program.x_window("Orvanto"), "the main window")
+        self.desktop.run("wmctrl", "-i", "-r", number, "-e", "0,150,190,1080,600")
+        until(lambda: self.place()[2:] == (1080, 600), "the new size")
+        before = until_still(self.place, "the window to rest")
+        for _ in range(3):
+            tray = Tray(self.program)
+            tray.minimize()
+            tray.choose(QUIT)
+            self.assertEqual(self.program.wait(), 0)
+            self.start_again()
+            until_equal(before, self.place, "the place of the last run")
+        # There and back again it is the same.
+        tray = Tray(self.program)
+        tray.minimize()
+        tray.click()
+        until_equal(before, self.place, "the place before the tray")
+        self.close()
+
+    def test_quit_after_a_minimized_start_keeps_the_place(self):
+        self.start_with_tray(ShowTrayiconHint="false", Window__Geometry__Restore="true")
+        self.close()
+        settings = {name: text for name, text in self.program.settings().items() if name != "@version"}
+        self.start_minimized(**{**settings, "Misc.MinimizeOnStart": "true"})
+        for run in range(2):
+            if run:
+                self.program.start()
+            Tray(self.program).choose(QUIT)
+            self.assertEqual(self.program.wait(), 0)
+            # The frame before it is not known in the tray, and not restored.
+            before, after = (each["Window.Geometry.Data"][48:] for each in (settings, self.program.settings()))
+            self.assertEqual(after, before)
 
     def test_quit_by_the_menu_without_a_question(self):
         _, tray = self.start_with_tray(ShowTrayiconHint="false")
