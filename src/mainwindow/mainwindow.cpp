@@ -289,6 +289,7 @@ void MainWindow::onClicked(int id)
 void MainWindow::editSettings()
 {
     DialogSettings dialog(this);
+    dialog.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
     if (dialog.exec() == QDialog::Accepted)
         dialog.save();
 }
@@ -336,5 +337,8 @@ void MainWindow::changeEvent(QEvent *event)
         event->accept();
         return;
     }
+    // Window managers do not know any more which dialog belongs to a native window that was made anew.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        raiseDialogs();
     QMainWindow::changeEvent(event);
 }

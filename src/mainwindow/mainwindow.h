@@ -15,6 +15,7 @@
 
 class Explorer;
 class ProgressDialog;
+class QDialog;
 class QPushButton;
 class QSignalMapper;
 class QTreeView;
@@ -97,6 +98,10 @@ private:
     void editSettings();
 
     void retranslateTrayMenu();
+    void adoptDialogs();
+    /// Each before those that it opened itself.
+    [[nodiscard]] QList<QDialog *> openDialogs() const;
+    void raiseDialogs();
     void restoreWindowGeometry();
     void saveWindowSettings();
     void requestSupport();

@@ -6,6 +6,7 @@
 import unittest
 
 from harness.case import Case
+from harness.hands import middle_of
 from harness.mainwindow import MainWindow
 from harness.program import SETTLED, Program
 from harness.settingsdialog import SettingsDialog
@@ -130,6 +131,58 @@ class InTheTray(TrayCase):
         self.assertEqual((self.program.stdout, self.program.stderr), ("", ""))
         settings = self.program.settings()
         self.assertEqual((settings["Log.Save"], settings.get("SupportUsHint")), ("true", "true"))
+
+    def test_quit_asks_once(self):
+        window, tray = self.start_with_tray(SupportUsHint="true", ShowTrayiconHint="false")
+        tray.minimize()
+        tray.choose(QUIT)
+        notice = self.program.window("dialog", "Advice")
+        tray.choose(QUIT)
+        until(lambda: notice.has("active"), "the notice to be active")
+        self.assertEqual([each.name for each in self.program.windows], ["Advice"], "asked a second time")
+        tray.click()
+        until(lambda: window.frame.has("showing"), "the main window to be back")
+        until(lambda: notice.has("active"), "the notice to be active")
+        self.screenshot("notice-over-the-window")
+        tray.hands.click(notice.one("push button", "Close"))
+        self.assertEqual(self.program.wait(), 0)
+
+    def test_an_open_dialog_comes_back_with_the_window(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        settings = SettingsDialog(window)
+        for comes_back in (tray.click, lambda: tray.choose(RESTORE)):
+            tray.minimize()
+            comes_back()
+            until(lambda: window.frame.has("showing"), "the main window to be back")
+            until(lambda: settings.dialog.has("active"), "the dialog to be active")
+            self.assertFalse(is_iconic(self.desktop, self.program.x_window("Global Settings")))
+            self.screenshot("dialog")
+        # The window still waits for the dialog, which comes to the front again.
+        tray.hands.click_at(*middle_of(window.preview))
+        until(lambda: settings.dialog.has("active"), "the dialog to be active")
+        self.assertFalse(window.preview.has("checked"), "the window took a click behind its dialog")
+        settings.toggle("Disable splash screen")
+        settings.press("Save")
+        settings.wait_closed()
+        self.close()
+        self.assertEqual(self.program.settings()["Misc.DisableSplashScreen"], "false")
+
+    def test_a_run_goes_on_in_the_tray(self):
+        names = [f"{number:05}.txt" for number in range(20000)]
+        folder = self.make_files(names)
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        window.add_by_drag(folder)
+        until(lambda: window.files.count == len(names), "the files")
+        window.add_rule("Insert Text", texts=["new_"], numbers=[0], choice="Start")
+        window.hands.click(window.rename_button)
+        # The window manager would bring the window back with a wait dialog that comes later.
+        until((folder / "new_01000.txt").exists, "the run to be under way")
+        tray.minimize()
+        self.assertEqual(window.report_text(), "Total 20000\nProcessed 20000\nFailed 0")
+        tray.click()
+        until(lambda: window.frame.has("showing"), "the main window to be back")
+        window.close_report()
+        self.close()
 
     def test_quit_by_the_menu_keeps_the_place(self):
         self.start_with_tray(ShowTrayiconHint="false", Window__Geometry__Restore="true")

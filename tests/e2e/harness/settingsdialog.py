@@ -45,7 +45,7 @@ class SettingsDialog:
         self.window.toggle(self.box(text))
 
     def press(self, text):
-        self.hands.click(self.dialog.one("push button", text))
+        self.hands.click(until(lambda: self.dialog.one("push button", text), text))
 
     def wait_closed(self):
         until(lambda: self.dialog not in self.program.windows, "the settings dialog to close")

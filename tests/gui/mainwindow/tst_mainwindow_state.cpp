@@ -1,13 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "desktop/messagebox.h"
 #include "support/drivenwindow.h"
+#include "support/modalanswer.h"
 
+#include <QAction>
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMenu>
 #include <QSystemTrayIcon>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +31,8 @@ private slots:
     void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
     void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
     void withoutATrayTheWindowIsMinimizedWhateverTheSettingSays();
+    void dialogsBlockTheirWindowAlone();
+    void dialogsComeToTheFrontWithTheWindow();
     void menuChecksTheEntryBelow_data();
     void menuChecksTheEntryBelow();
 
@@ -128,6 +134,60 @@ void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
     QVERIFY(window.isVisible());
     QVERIFY(window.isMinimized());
     QVERIFY(!window.findChild<QSystemTrayIcon *>());
+}
+
+void MainWindowState::dialogsBlockTheirWindowAlone()
+{
+    DrivenWindow window;
+    window->show();
+    QStringList blocking;
+    // A dialog that blocked all windows would block the icon in the tray, too.
+    const auto look = [&](const QDialog *dialog) {
+        if (dialog->windowModality() == Qt::WindowModal)
+            blocking.append(QString::fromLatin1(dialog->metaObject()->className()));
+    };
+    {
+        const ModalAnswer settingsDialog([&](const QDialog *dialog) {
+            look(dialog);
+            const ModalAnswer box(look);
+            QMessageBox *sibling = createMessageBox(window.get(), QMessageBox::Information);
+            execMessageBox(sibling);
+            QVERIFY(box.isDone());
+            QCOMPARE(sibling->windowHandle()->transientParent(), dialog->windowHandle());
+        });
+        window.child<QAction>("actionGlobalSettings")->trigger();
+    }
+    settings->tree.addFile(u"a.txt"_s);
+    window.drop({settings->tree.path(u"a.txt"_s)});
+    {
+        BoxAnswerer report;
+        report.beforeAnswer = look;
+        window.click("buttonRename");
+    }
+    SettingsStore::instance()->setValueByName(u"SupportUsHint"_s, true);
+    const ModalAnswer notice(look);
+    window->close();
+    QCOMPARE(blocking,
+             (QStringList{u"DialogSettings"_s, u"QMessageBox"_s, u"QMessageBox"_s, u"DialogNotice"_s}));
+    QCOMPARE(ProgressDialog(window.get()).windowModality(), Qt::WindowModal);
+}
+
+void MainWindowState::dialogsComeToTheFrontWithTheWindow()
+{
+    MainWindow window({});
+    window.initialize();
+    window.show();
+    ProgressDialog dialog(&window);
+    dialog.show();
+    dialog.showMinimized();
+    window.onRestoreWindow();
+    QVERIFY(!dialog.isMinimized());
+    QVERIFY(dialog.isVisible());
+    QTRY_VERIFY(dialog.isActiveWindow());
+    QCOMPARE(dialog.windowHandle()->transientParent(), window.windowHandle());
+    window.activateWindow();
+    QTRY_VERIFY(dialog.isActiveWindow());
+    dialog.reject();
 }
 
 void MainWindowState::menuChecksTheEntryBelow_data()
