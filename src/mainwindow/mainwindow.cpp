@@ -13,6 +13,7 @@
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/progressdialog.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -227,6 +228,10 @@ void MainWindow::checkForNewVersion()
     if (!SettingsStore::instance()->value(SettingKey::VersionCheckAuto, true).toBool())
         return;
     auto *check = new VersionCheck(this); // deletes itself
+    // A run or an adding of files waits inside an event loop, which a box would not leave.
+    check->isParentBusy = [this] {
+        return findChild<ProgressDialog *>() || ui->listWidgetFiles->isHandlingDrop();
+    };
     check->check(false);
 }
 
