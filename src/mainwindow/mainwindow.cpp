@@ -13,6 +13,7 @@
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/logdelegate.h"
 #include "mainwindow/progressdialog.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
@@ -84,6 +85,7 @@ void MainWindow::initialize()
     createLogo();
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());
+    ui->tableWidgetLog->setItemDelegate(new LogDelegate(ui->tableWidgetLog));
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
     logTimer->setInterval(logTimerInterval);
