@@ -218,6 +218,26 @@ class InTheTray(TrayCase):
             before, after = (each["Window.Geometry.Data"][48:] for each in (settings, self.program.settings()))
             self.assertEqual(after, before)
 
+    def test_the_menu_follows_the_language(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        # The icon stays when its menu brings the window back.
+        tray.minimize()
+        english = tray.menu_size()
+        tray.choose(RESTORE)
+        self.expect_back(window)
+        settings = SettingsDialog(window)
+        settings.choose_language("de_DE")
+        settings.press("Abbrechen")
+        settings.wait_closed()
+        german = tray.menu_size()
+        self.assertGreater(german, english)
+        self.close()
+        self.program.start()
+        self.program.window("frame", "Orvanto")
+        tray = Tray(self.program)
+        tray.minimize()
+        self.assertEqual(german, tray.menu_size(), "the menu of a start in German")
+
     def test_quit_by_the_menu_without_a_question(self):
         _, tray = self.start_with_tray(ShowTrayiconHint="false")
         tray.minimize()

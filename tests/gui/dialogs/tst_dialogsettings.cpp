@@ -33,6 +33,7 @@ private slots:
     void pagesFadeIn();
     void autoStartIsSwitchedAtOnce();
     void autoStartOfAnotherPathIsOverwritten();
+    void autoStartFollowsTheEntryNotTheCheckBox();
     void autoStartComparesWithoutCase();
     void autoStartFailureIsTold();
     void dialogGoesWhileTheBoxIsOpen();
@@ -298,6 +299,23 @@ void TestDialogSettings::autoStartOfAnotherPathIsOverwritten()
     QVERIFY(box.isDone());
     QVERIFY(isAutoStartEnabled());
     QVERIFY(checkBox->isChecked());
+}
+
+void TestDialogSettings::autoStartFollowsTheEntryNotTheCheckBox()
+{
+    DialogSettings dialog(nullptr);
+    dialog.show();
+    auto *checkBox = find<QCheckBox>(dialog, "checkBoxEnableAutoStart");
+    for (const bool isEnabled : {true, false}) {
+        // Another instance may have written the entry since the box was set.
+        QVERIFY(isAutoStartEnabled() == isEnabled || setAutoStart(isEnabled));
+        checkBox->setChecked(!isEnabled);
+        const BoxAnswer box(QMessageBox::Ok);
+        click(checkBox);
+        QVERIFY(box.isDone());
+        QCOMPARE(isAutoStartEnabled(), !isEnabled);
+        QCOMPARE(checkBox->isChecked(), !isEnabled);
+    }
 }
 
 void TestDialogSettings::autoStartComparesWithoutCase()

@@ -9,6 +9,7 @@
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMenu>
+#include <QScreen>
 #include <QSystemTrayIcon>
 #include <QTest>
 #include <QWindow>
@@ -31,6 +32,9 @@ private slots:
     void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
     void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
     void withoutATrayTheWindowIsMinimizedWhateverTheSettingSays();
+    void onlyTheWindowSystemMinimizesIntoTheTray();
+    void windowBeyondTheDesktopIsMovedBack_data();
+    void windowBeyondTheDesktopIsMovedBack();
     void dialogsBlockTheirWindowAlone();
     void dialogsComeToTheFrontWithTheWindow();
     void menuChecksTheEntryBelow_data();
@@ -134,6 +138,44 @@ void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
     QVERIFY(window.isVisible());
     QVERIFY(window.isMinimized());
     QVERIFY(!window.findChild<QSystemTrayIcon *>());
+}
+
+void MainWindowState::onlyTheWindowSystemMinimizesIntoTheTray()
+{
+    MainWindow window({});
+    window.initialize();
+    // Minimising what is hidden would show it.
+    window.setWindowState(Qt::WindowMinimized);
+    QVERIFY(window.isMinimized());
+    QVERIFY(window.isHidden());
+}
+
+void MainWindowState::windowBeyondTheDesktopIsMovedBack_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<bool>("stays");
+    const QSize desktop = QGuiApplication::primaryScreen()->virtualGeometry().size();
+    const int right = desktop.width() - 64;
+    const int bottom = desktop.height() - 64;
+    QTest::newRow("first corner") << QPoint(0, 0) << true;
+    QTest::newRow("last corner") << QPoint(right, bottom) << true;
+    QTest::newRow("left") << QPoint(-1, 10) << false;
+    QTest::newRow("top") << QPoint(10, -1) << false;
+    QTest::newRow("right") << QPoint(right + 1, 10) << false;
+    QTest::newRow("bottom") << QPoint(10, bottom + 1) << false;
+}
+
+void MainWindowState::windowBeyondTheDesktopIsMovedBack()
+{
+    QFETCH(QPoint, place);
+    QFETCH(bool, stays);
+    SettingsStore::instance()->setValue(SettingKey::WindowGeometryRestore, true);
+    MainWindow window({});
+    window.initialize();
+    // Qt itself moves what it restores, but data that does not restore leave the window where it is.
+    window.move(place);
+    window.restoreWindowSettings();
+    QCOMPARE(window.pos(), stays ? place : QPoint(64, 64));
 }
 
 void MainWindowState::dialogsBlockTheirWindowAlone()
