@@ -26,12 +26,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int filesPerFolder = 1000;
-
-} // namespace
-
 void prepareBenchmark()
 {
     QApplication::setStyle(u"Fusion"_s);
@@ -57,8 +51,9 @@ void PauseMeter::pass()
     sincePass.start();
 }
 
-FileTree::FileTree(int fileCount)
+FileTree::FileTree(int fileCount, int inEachFolder)
     : count(fileCount)
+    , filesPerFolder(inEachFolder)
 {
     QTemporaryDir directory(u"/dev/shm/orvanto-benchmark-XXXXXX"_s);
     directory.setAutoRemove(false);

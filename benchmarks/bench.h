@@ -48,13 +48,14 @@ private:
 class FileTree final
 {
 public:
-    explicit FileTree(int fileCount);
+    explicit FileTree(int fileCount, int inEachFolder = 1000);
     ~FileTree();
     Q_DISABLE_COPY_MOVE(FileTree)
 
     [[nodiscard]] QString path(int file) const;
 
     const int count;
+    const int filesPerFolder;
     QString folder;
 };
 

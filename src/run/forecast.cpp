@@ -87,6 +87,8 @@ Outcome Forecast::next(const FilePath &file, const QString &newName)
 Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &outcome)
 {
     const NewName seen(newName);
+    if (seen.refusal == Fate::Empty && newName.size() > 1 && seen.lastPartAt == newName.size())
+        return refuseAllButFolders(file, newName.first(newName.size() - 1));
     if (seen.refusal)
         return *seen.refusal;
     ForecastFolder &source = readFolder(QStringView(file.path).first(file.nameAt));
@@ -94,22 +96,52 @@ Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &
         return *fate;
     const QStringView name = QStringView(file.path).sliced(file.nameAt);
     Entry *const entry = source.find(name);
-    if (!entry)
+    if (!entry || (!entry->isThere && entry->isSure))
         return Fate::Missing;
     if (newName == name)
-        return Fate::Unchanged;
+        return entry->isSure ? Fate::Unchanged : Fate::Unknown;
     if (seen.lastPartAt == 0)
         return move({file, source, source, name, entry, newName, false}, outcome);
     ForecastFolder &target = readFolder(file.sibling(newName.first(seen.lastPartAt)));
-    if (const auto fate = fateIn(target.traits().state, Fate::NoFolder))
+    if (const auto fate = fateIn(target.traits().state, Fate::NoFolder)) {
+        if (*fate == Fate::Unknown)
+            source.doubt(entry, name);
         return *fate;
+    }
     return move({file, source, target, name, entry, QStringView(newName).sliced(seen.lastPartAt), true},
                 outcome);
 }
 
+/// Of a folder that took the place of a row's file: systems may take a separator at the end of its new name.
+Fate Forecast::refuseAllButFolders(const FilePath &file, const QString &newName)
+{
+    ForecastFolder &source = readFolder(QStringView(file.path).first(file.nameAt));
+    const QStringView name = QStringView(file.path).sliced(file.nameAt);
+    Entry *const entry = source.find(name);
+    const bool isNone = !entry || (!entry->isThere && entry->isSure);
+    if (isNone || (entry->isSure && (entry->kind ? entry->kind : kindAt(file.path)) != Kind::Folder))
+        return Fate::Empty;
+    source.doubt(entry, name);
+    const qsizetype lastPartAt = NewName(newName).lastPartAt;
+    ForecastFolder &target = readFolder(file.sibling(newName.first(lastPartAt)));
+    const QStringView newLastPart = QStringView(newName).sliced(lastPartAt);
+    target.doubt(target.find(newLastPart), newLastPart);
+    noteMovedWay(file.path);
+    noteMovedWay(QDir::cleanPath(file.sibling(newName)));
+    return Fate::Unknown;
+}
+
 Fate Forecast::move(const Step &step, Outcome &outcome)
 {
-    if (const auto refusal = refusalOf(step, outcome))
+    Entry *const place = step.target.find(step.newName);
+    const bool isSure = step.entry->isSure && (!place || place->isSure);
+    const auto refusal = isSure ? refusalOf(step, place && place->isThere ? place : nullptr, outcome)
+                                : std::optional(Fate::Unknown);
+    if (refusal == Fate::Unknown) {
+        step.source.doubt(step.entry, step.name);
+        step.target.doubt(place, step.newName);
+    }
+    if (refusal)
         return *refusal;
     const auto kind = step.entry->kind ? step.entry->kind : kindAt(step.file.path);
     if (kind == Kind::Folder || kind == Kind::Link) {
@@ -120,12 +152,12 @@ Fate Forecast::move(const Step &step, Outcome &outcome)
         noteMovedWay(target);
     }
     step.source.remove(step.entry, step.name);
-    step.target.insert(step.newName, handledRows, kind);
+    step.target.insert(place, step.newName, handledRows, kind);
     return Fate::Renamed;
 }
 
 /// The order is that in which the run learns of things.
-std::optional<Fate> Forecast::refusalOf(const Step &step, Outcome &outcome) const
+std::optional<Fate> Forecast::refusalOf(const Step &step, const Entry *there, Outcome &outcome) const
 {
     const FolderTraits &traits = step.target.traits();
     if (traits.volume != step.source.traits().volume)
@@ -133,7 +165,6 @@ std::optional<Fate> Forecast::refusalOf(const Step &step, Outcome &outcome) cons
     if (isLongerThan(step.newName, traits.longestName, traits.lengthUnit) ||
         isLongerThan(outcome.path, traits.longestPath, traits.pathUnit))
         return Fate::TooLong;
-    const Entry *there = step.target.find(step.newName);
     if (there && there != step.entry)
         return takenBy(there->row, outcome);
     // The file itself, by another spelling.
@@ -206,7 +237,8 @@ void Forecast::noteMovedWay(const QString &path)
 {
     movedWays.insert(path);
     const QString way = path + u'/';
-    byPath.removeIf([&way](const auto &folder) { return folder.key().startsWith(way); });
+    byPath.removeIf(
+        [&way](const auto &folder) { return QString(QDir::cleanPath(folder.key()) + u'/').startsWith(way); });
     lastFolder = nullptr;
 }
 

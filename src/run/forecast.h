@@ -56,8 +56,10 @@ private:
     [[nodiscard]] ForecastFolder *newFolder(const QString &path);
     [[nodiscard]] ForecastFolder &readFolder(QStringView path);
     [[nodiscard]] Fate reasonFor(const FilePath &file, const QString &newName, Outcome &outcome);
+    [[nodiscard]] Fate refuseAllButFolders(const FilePath &file, const QString &newName);
     [[nodiscard]] Fate move(const Step &step, Outcome &outcome);
-    [[nodiscard]] std::optional<Fate> refusalOf(const Step &step, Outcome &outcome) const;
+    [[nodiscard]] std::optional<Fate> refusalOf(const Step &step, const ForecastFolder::Entry *there,
+                                                Outcome &outcome) const;
     [[nodiscard]] Fate takenBy(int row, Outcome &outcome) const;
     [[nodiscard]] std::optional<FileIdentity::Kind> kindAt(const QString &path) const;
     void noteMovedWay(const QString &path);

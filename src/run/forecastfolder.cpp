@@ -36,6 +36,8 @@ bool ForecastFolder::readNames(int atMost)
     if (!reader) {
         reader = view.open(path);
         known = reader->traits();
+        // Those that are there, and those that come.
+        names.reserve(2 * rows.size());
     }
     for (int i = 0; i < atMost; ++i) {
         const std::optional<FolderEntry> entry = reader->next();
@@ -113,17 +115,16 @@ QStringView ForecastFolder::keyOf(QStringView name) const
 ForecastFolder::Entry *ForecastFolder::find(QStringView name)
 {
     const auto entry = names.find(keyOf(name));
-    return entry != names.end() && entry->isThere ? &*entry : nullptr;
+    return entry != names.end() ? &*entry : nullptr;
 }
 
-void ForecastFolder::insert(QStringView name, int row, std::optional<FileIdentity::Kind> kind)
+void ForecastFolder::insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind)
 {
-    const QStringView key = keyOf(name);
     const Entry entry{.row = row, .isThere = true, .kind = kind};
-    if (const auto gone = names.find(key); gone != names.end())
+    if (gone)
         *gone = entry;
     else
-        names.insert(store.keep(key), entry);
+        names.insert(store.keep(keyOf(name)), entry);
     if (known.spelling == Spelling::Unknown)
         ++alike[foldedName(name, Spelling::AnyCase)];
 }
@@ -133,6 +134,14 @@ void ForecastFolder::remove(Entry *entry, QStringView name)
     entry->isThere = false;
     if (known.spelling == Spelling::Unknown)
         --alike[foldedName(name, Spelling::AnyCase)];
+}
+
+void ForecastFolder::doubt(Entry *entry, QStringView name)
+{
+    if (entry)
+        entry->isSure = false;
+    else
+        names.insert(store.keep(keyOf(name)), {.isSure = false, .kind = {}});
 }
 
 bool ForecastFolder::mayClash(QStringView name, QStringView ownName) const

@@ -21,6 +21,8 @@ public:
         int row = -1;
         /// Of what was moved away the entry stays.
         bool isThere = false;
+        /// Whether that is known: a row whose fate is unknown may have taken the name, or left it.
+        bool isSure = true;
         std::optional<FileIdentity::Kind> kind;
     };
 
@@ -35,11 +37,15 @@ public:
     void giveUp();
 
     [[nodiscard]] const FolderTraits &traits() const { return known; }
-    /// What is there by the name, by whatever spelling; null if nothing is. Good until insert() is called.
+    /// What is, or was, there by the name, by whatever spelling; null if nothing ever was. Good until
+    /// insert() is called.
     [[nodiscard]] Entry *find(QStringView name);
-    /// Puts what is moved here under its new name; there must be nothing by that name.
-    void insert(QStringView name, int row, std::optional<FileIdentity::Kind> kind);
+    /// Puts what is moved here under its new name, in the place of what was there.
+    void insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind);
     void remove(Entry *entry, QStringView name);
+    /// Whether something is there by the name shall be unknown; the entry is that of the name, if there is
+    /// one.
+    void doubt(Entry *entry, QStringView name);
 
     /// Whether something else may be the same name, where nobody knows which spellings are one. The file's
     /// own name is nothing else; it is null where the file comes from another folder.

@@ -4,6 +4,10 @@
 #include "fault/faultrun.h"
 #include "fault/inject/systemfaults.h"
 #include "platform/filerename.h"
+#include "run/forecast.h"
+#include "run/renamerun.h"
+#include "run/spelling.h"
+#include "run/systemdisk.h"
 
 #include "fileidentity.h"
 
@@ -198,6 +202,42 @@ private slots:
         if (renamed)
             expected.insert(to, expected.take(from));
         QCOMPARE(contents(), shown(expected));
+    }
+
+    // What the forecast says of each row of the table is what the run then comes to.
+    void areForetold_data() { renames_data(); }
+    void areForetold()
+    {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(int, obstacle);
+        QFETCH(QString, other);
+        write(from, "content");
+        if (obstacle == File)
+            write(other, "in the way");
+        else if (obstacle == Folder)
+            QVERIFY(QDir().mkdir(path(other)));
+        else if (obstacle == DanglingLink && !QFile::link(u"nowhere"_s, path(other)))
+            return; // no links, nothing in the way
+        const Contents before = contents();
+        const FilePath file = FilePath::of(path(from));
+        const SystemDiskView view;
+        Forecast forecast(view);
+        forecast.add(file);
+        const Outcome foretold = forecast.next(file, to);
+        QCOMPARE(contents(), before);
+        SystemDisk disk;
+        RenameRun rename(disk);
+        const Outcome done = rename.next(file, to);
+        if (foretold.reason == Fate::Unknown) {
+            // Only where nobody says which names there can be.
+            QVERIFY(!is(sensitive | Casefold));
+            QVERIFY(hasForbiddenCharacter(to) || endsInDotOrBlank(to) || namesDevice(to));
+            return;
+        }
+        QCOMPARE(idOf(foretold.fate), idOf(done.fate));
+        QCOMPARE(idOf(foretold.reason), idOf(done.reason));
+        QCOMPARE(foretold.path, done.path);
     }
 
     // Where QFile::rename does what the program's rename does, and where not.

@@ -3,6 +3,7 @@
 
 #include "fault/diskmodel.h"
 #include "fault/randominput.h"
+#include "fault/randomtree.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
 #include "support/environment.h"
@@ -43,28 +44,6 @@ private:
     int renamed = 0;
     int refused = 0;
     int discarded = 0;
-
-    /// A tree six folders deep, so that a few steps up stay inside it.
-    QString plant(const TempTree &tree, RandomInput &random)
-    {
-        const QString base = u"1/2/3/4/5/base/"_s;
-        tree.addFolder(base + u"sub"_s);
-        const int count = 2 + random.below(10);
-        for (int i = 0; i < count; ++i) {
-            const QString name = base + (random.chance(15) ? u"sub/"_s : QString()) + random.fileName();
-            const QFileInfo there(tree.path(name));
-            if (there.exists() || there.isSymLink())
-                continue;
-            const int what = random.below(100);
-            if (what < 4)
-                tree.addFolder(name);
-            else if (what < 10)
-                tree.addLink(name, tree.path(base + random.fileName()));
-            else
-                tree.addFile(name, "content " + QByteArray::number(++fileNumber));
-        }
-        return tree.path(base);
-    }
 
     /// Lists some of the files in random order, some twice or by another spelling, some that do not exist.
     void list(const QString &base, RandomInput &random) const
@@ -226,7 +205,7 @@ private slots:
             const quint32 roundSeed = seed + static_cast<quint32>(round);
             RandomInput random(roundSeed);
             const TempTree tree;
-            const QString base = plant(tree, random);
+            const QString base = plantTree(tree, random, fileNumber);
             list(base, random);
             chooseRules(random);
             runOnce(tree, random);
