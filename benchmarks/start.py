@@ -15,7 +15,8 @@ from Xlib.ext import damage
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests" / "e2e"))
 from harness.desktop import Desktop
-from harness.program import SETTLED, Program
+from harness.program import Program
+from settingsfile import SETTLED
 
 DEADLINE = 30
 IDLE = 3

@@ -11,6 +11,7 @@
 #include "desktop/taskbar.h"
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/checkschedule.h"
+#include "mainwindow/commandids.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
 #include "mainwindow/logdelegate.h"
@@ -34,12 +35,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Ids of the signal mappers; fixed. The key handling shares those of the lists.
-enum Command { ClearLog, SaveLog, ToggleLogDock, OpenLogFolder, IncludeDebug, GlobalSettings, VisitHome };
-enum VariousCommand { ShowFullPath, ToggleExplorerDock };
-constexpr int removeFilesId = 4;
-constexpr int removeRuleId = 5;
 
 constexpr int renameButtonWidth = 140; // pixels, at least
 constexpr int logTimerInterval = 250;  // milliseconds
@@ -144,15 +139,15 @@ void MainWindow::createMappers()
     };
 
     QSignalMapper *fileListMapper = createMapper(&MainWindow::onClickedFileList);
-    mapButton(fileListMapper, ui->buttonFileListUp, 2);
-    mapButton(fileListMapper, ui->buttonFileListDown, 3);
-    mapButton(fileListMapper, ui->buttonFileListRemove, removeFilesId);
+    mapButton(fileListMapper, ui->buttonFileListUp, MoveFileUp);
+    mapButton(fileListMapper, ui->buttonFileListDown, MoveFileDown);
+    mapButton(fileListMapper, ui->buttonFileListRemove, RemoveFiles);
 
     QSignalMapper *ruleListMapper = createMapper(&MainWindow::onClickedRuleList);
-    mapButton(ruleListMapper, ui->buttonRuleListRemove, removeRuleId);
-    mapButton(ruleListMapper, ui->buttonRuleListUp, 6);
-    mapButton(ruleListMapper, ui->buttonRuleListDown, 7);
-    mapButton(ruleListMapper, ui->buttonRuleListClear, 8);
+    mapButton(ruleListMapper, ui->buttonRuleListRemove, RemoveRule);
+    mapButton(ruleListMapper, ui->buttonRuleListUp, MoveRuleUp);
+    mapButton(ruleListMapper, ui->buttonRuleListDown, MoveRuleDown);
+    mapButton(ruleListMapper, ui->buttonRuleListClear, ClearRules);
 
     QSignalMapper *variousMapper = createMapper(&MainWindow::onClickedVarious);
     mapButton(variousMapper, ui->checkBoxShowFullPath, ShowFullPath);
@@ -319,10 +314,10 @@ void MainWindow::onClickedVarious(int id)
 void MainWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Delete && ui->listWidgetFiles->hasFocus()) {
-        onClickedFileList(removeFilesId);
+        onClickedFileList(RemoveFiles);
         event->accept();
     } else if (event->key() == Qt::Key_Delete && ui->treeWidgetRules->hasFocus()) {
-        onClickedRuleList(removeRuleId);
+        onClickedRuleList(RemoveRule);
         event->accept();
     } else {
         QMainWindow::keyPressEvent(event);

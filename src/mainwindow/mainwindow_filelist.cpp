@@ -3,6 +3,7 @@
 
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/commandids.h"
 #include "mainwindow/progressdialog.h"
 #include "run/scan.h"
 #include "ui_mainwindow.h"
@@ -18,9 +19,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Ids of the signal mapper; fixed.
-enum FileListCommand { MoveFileUp = 2, MoveFileDown = 3, RemoveFiles = 4 };
 
 constexpr qint64 countInterval = 40;  // milliseconds
 constexpr qint64 longestSilence = 10; // milliseconds

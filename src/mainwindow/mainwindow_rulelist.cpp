@@ -3,17 +3,11 @@
 
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/commandids.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
 #include "ui_mainwindow.h"
-
-namespace {
-
-// Ids of the signal mapper; fixed.
-enum RuleListCommand { RemoveRule = 5, MoveRuleUp = 6, MoveRuleDown = 7, ClearRules = 8 };
-
-} // namespace
 
 void MainWindow::fillRuleComboBox()
 {

@@ -8,9 +8,10 @@ import xml.etree.ElementTree as ET
 
 from harness.case import Case
 from harness.mainwindow import MainWindow
-from harness.program import SETTLED, Program
+from harness.program import Program
 from harness.waiting import until
 from harness.watchedfile import WatchedFile
+from settingsfile import SETTLED
 
 
 class Instances(Case):

@@ -9,8 +9,9 @@ import unittest
 from harness.case import Case
 from harness.hands import Hands
 from harness.mainwindow import MainWindow
-from harness.program import SETTLED, Program, executable, settings_text
+from harness.program import Program, executable
 from harness.waiting import until
+from settingsfile import SETTLED, settings_text
 
 TITLE = "We are sorry, but an error has occurred!"
 MESSAGE = "You must have write permission to the application directory for portable use."

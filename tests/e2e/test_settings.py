@@ -8,7 +8,7 @@ import unittest
 from harness.case import Case
 from harness.dialogs import pass_first_start
 from harness.mainwindow import MainWindow
-from harness.program import SETTLED, settings_text
+from settingsfile import SETTLED, settings_text
 
 DECLARATION = "<?xml version='1.0' encoding='utf-8'?>"
 COMMENT = "<!--here you can find the global settings-->"

@@ -8,9 +8,10 @@ import unittest
 from harness.case import Case
 from harness.mainwindow import MainWindow
 from harness.opener import Opener
-from harness.program import SETTLED, Program, executable
+from harness.program import Program, executable
 from harness.settingsdialog import ADD_ONS, DONATE, GENERAL, INFO, LOCALISATION, SettingsDialog
 from harness.waiting import until, until_equal, until_still
+from settingsfile import SETTLED
 
 # Every check box that stands for a setting, with what it shows for the settings the tests begin with.
 OPTIONS = {

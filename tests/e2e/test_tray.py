@@ -8,11 +8,12 @@ import unittest
 from harness.case import Case
 from harness.hands import middle_of
 from harness.mainwindow import MainWindow
-from harness.program import SETTLED, Program
+from harness.program import Program
 from harness.settingsdialog import SettingsDialog
 from harness.tray import QUIT, RESTORE, Tray
 from harness.waiting import until, until_equal, until_still
 from harness.xwindows import is_iconic, opacity, place
+from settingsfile import SETTLED
 
 
 class TrayCase(Case):

@@ -10,12 +10,13 @@ import unittest
 
 from harness.case import Case
 from harness.opener import Opener
-from harness.program import SETTLED, Program
+from harness.program import Program
 from harness.mainwindow import MainWindow
 from harness.settingsdialog import SettingsDialog
 from harness.tray import Tray
 from harness.updateservice import UpdateService
 from harness.waiting import until, until_equal
+from settingsfile import SETTLED
 
 NEWER = "outdated=1\nlatest=2.0.0.0\ndownload=http://127.0.0.1/download\nchanges=http://127.0.0.1/changes\n"
 CURRENT = "outdated=0\nlatest=1.2.0.5\n"

@@ -11,8 +11,9 @@ import subprocess
 import tempfile
 import unittest
 
-from harness.program import SETTLED, executable, settings_text
+from harness.program import executable
 from harness.waiting import DEADLINE, until
+from settingsfile import SETTLED, settings_text
 
 TOOL = pathlib.Path(__file__).resolve().parents[2] / "tools" / "virtual-display"
 

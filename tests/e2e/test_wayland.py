@@ -15,8 +15,9 @@ from gi.repository import GLib
 
 from harness.accessible import PREFIX
 from harness.case import Case
-from harness.program import SETTLED, Program
+from harness.program import Program
 from harness.waiting import until, until_equal
+from settingsfile import SETTLED
 
 SOCKET = "wayland-of-the-tests"
 

@@ -9,9 +9,10 @@ import unittest
 from harness.case import Case
 from harness.desktop import Desktop
 from harness.hands import RIGHT
-from harness.program import SETTLED, Program, settings_text
+from harness.program import Program
 from harness.waiting import until, until_equal, until_still
 from harness.xwindows import is_above, opacity, own_windows, place, wait_for_menu
+from settingsfile import SETTLED, settings_text
 
 STAY_ON_TOP = 4
 RESTORED = {"Window.Geometry.Restore": "true", "Window.Layout.Restore": "true"}

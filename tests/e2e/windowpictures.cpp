@@ -12,6 +12,7 @@
 #include "mainwindow/progressdialog.h"
 #include "support/httpserver.h"
 #include "support/temptree.h"
+#include "support/toplevel.h"
 #include "update/versioncheck.h"
 
 #include <QCheckBox>
@@ -147,16 +148,6 @@ std::unique_ptr<QWidget> widgetsOfAllSorts()
              new QSpinBox, new QPlainTextEdit(u"Plain text"_s)})
         layout->addWidget(widget);
     return window;
-}
-
-MainWindow *mainWindow()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<MainWindow *>(widget))
-            return window;
-    }
-    return nullptr;
 }
 
 void fillMainWindow(MainWindow *window, const TempTree &files)
@@ -311,7 +302,7 @@ int main(int argc, char **argv)
     widgetsOfAllSorts()->grab().save(folder + "/desktop.png"_L1);
     application.init();
     const TempTree files;
-    MainWindow *window = mainWindow();
+    MainWindow *window = topLevel<MainWindow>();
     fillMainWindow(window, files);
     showMainWindow(window);
     showDialogs(window);

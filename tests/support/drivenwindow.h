@@ -104,6 +104,13 @@ public:
         window->onFileListAdded(&data);
     }
 
+    /// Makes a refresh of the rows visible: it overwrites these texts.
+    void spoilRowTexts() const
+    {
+        for (int row = 0; row < files()->count(); ++row)
+            files()->item(row)->setText(QStringLiteral("spoilt"));
+    }
+
     [[nodiscard]] QStringList rowTexts() const
     {
         QStringList texts;

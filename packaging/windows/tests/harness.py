@@ -10,10 +10,15 @@ import os
 import pathlib
 import shutil
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
 import xml.etree.ElementTree as ET
+
+# Behind this folder, which has a harness of its own.
+sys.path.append(str(pathlib.Path(__file__).resolve().parents[3] / "tests" / "e2e"))
+from settingsfile import SETTLED, settings_text
 
 VERSION = os.environ["ORVANTO_VERSION"]
 DEADLINE = 60
@@ -32,9 +37,6 @@ SETTINGS_BUTTON, DRIVE, FIRST_FOLDER = (27, 22), (1037, 569), (1060, 587)
 EXPLORER = (980, 562, 268, 300)
 
 RULE_KINDS = ("Change Case", "Enumerate", "Insert Text", "Replace", "Trim")
-
-SETTLED = {"Misc.IsFirstStart": "false", "Misc.DisableSplashScreen": "true", "SupportUsHint": "false",
-           "VersionCheck.Auto": "false"}
 
 
 def until(condition, what, deadline=DEADLINE):
@@ -254,16 +256,9 @@ def rename(window):
 
 
 def write_settings(folder, values=SETTLED):
-    root = ET.Element("Settings")
-    for name, value in values.items():
-        element = root
-        for component in name.split("."):
-            found = element.find(component)
-            element = ET.SubElement(element, component) if found is None else found
-        element.text = value
     file = folder / "config" / "global.xml"
     file.parent.mkdir(parents=True, exist_ok=True)
-    file.write_text(ET.tostring(root, "unicode"), encoding="utf-8")
+    file.write_text(settings_text(values), encoding="utf-8")
 
 
 class WindowsCase(unittest.TestCase):

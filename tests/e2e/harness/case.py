@@ -11,10 +11,12 @@ import tempfile
 import time
 import unittest
 
+from settingsfile import SETTLED, settings_text
+
 from .desktop import Desktop
 from .dialogs import answer_support_request, pass_first_start
 from .mainwindow import MainWindow
-from .program import SETTLED, Program, settings_text
+from .program import Program
 
 
 # Few folders lie above it and beside it: the explorer has little to read and little that changes meanwhile.

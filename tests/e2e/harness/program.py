@@ -8,35 +8,16 @@ import pathlib
 import subprocess
 import xml.etree.ElementTree as ET
 
+from settingsfile import settings_text
+
 from . import accessible
 from .waiting import DEADLINE, until
-
-# What would otherwise stand between a test and the main window, or reach for the network.
-SETTLED = {
-    "Misc.IsFirstStart": "false",
-    "Misc.DisableSplashScreen": "true",
-    "SupportUsHint": "false",
-    "VersionCheck.Auto": "false",
-}
-
 
 _run_numbers = itertools.count(1)
 
 
 def executable():
     return pathlib.Path(os.environ["ORVANTO_E2E_EXECUTABLE"])
-
-
-def settings_text(values):
-    """A settings file with these values, each under its dotted name."""
-    root = ET.Element("Settings")
-    for name, value in values.items():
-        element = root
-        for component in name.split("."):
-            found = element.find(component)
-            element = ET.SubElement(element, component) if found is None else found
-        element.text = value
-    return ET.tostring(root, "unicode", xml_declaration=False)
 
 
 def read_settings(file):

@@ -5,6 +5,7 @@
 #include "app/splash.h"
 #include "core/settingsstore.h"
 #include "mainwindow/mainwindow.h"
+#include "support/toplevel.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,28 +32,14 @@ private slots:
     void closingTheLastWindowDoesNotEndIt();
 };
 
-namespace {
-
-MainWindow *mainWindow()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<MainWindow *>(widget))
-            return window;
-    }
-    return nullptr;
-}
-
-} // namespace
-
 void TestApplication::hasItsIdentity()
 {
     QCOMPARE(QCoreApplication::applicationName(), u"Orvanto"_s);
     QCOMPARE(QCoreApplication::applicationVersion(), u"1.2.0.5"_s);
     QCOMPARE(QCoreApplication::organizationName(), u"Kavrondel"_s);
     QCOMPARE(QCoreApplication::organizationDomain(), u"kavrondel.example"_s);
-    QVERIFY(mainWindow());
-    QCOMPARE(mainWindow()->windowTitle(), u"Orvanto"_s);
+    QVERIFY(topLevel<MainWindow>());
+    QCOMPARE(topLevel<MainWindow>()->windowTitle(), u"Orvanto"_s);
 }
 
 void TestApplication::publishesTheValidationPatterns_data()
@@ -79,7 +66,7 @@ void TestApplication::worksInTheDataFolder()
 
 void TestApplication::logsTheStartInOrder()
 {
-    const auto *table = mainWindow()->findChild<QTableWidget *>(u"tableWidgetLog"_s);
+    const auto *table = topLevel<MainWindow>()->findChild<QTableWidget *>(u"tableWidgetLog"_s);
     QTRY_VERIFY(table->rowCount() >= 6);
     QStringList lines;
     for (int row = table->rowCount() - 1; row >= 0; --row)
@@ -94,7 +81,7 @@ void TestApplication::logsTheStartInOrder()
 void TestApplication::windowGetsTheStoredOpacity()
 {
     // A window keeps its opacity in steps of 1/255.
-    QVERIFY(std::abs(mainWindow()->windowOpacity() - 0.5) < 1.0 / 255);
+    QVERIFY(std::abs(topLevel<MainWindow>()->windowOpacity() - 0.5) < 1.0 / 255);
 }
 
 void TestApplication::closingTheLastWindowDoesNotEndIt()

@@ -7,6 +7,7 @@
 #include "dialogs/dialogstart.h"
 #include "mainwindow/mainwindow.h"
 #include "support/temptree.h"
+#include "support/toplevel.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,17 +25,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-template <typename Window>
-Window *topLevel()
-{
-    const auto widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        if (auto *window = qobject_cast<Window *>(widget))
-            return window;
-    }
-    return nullptr;
-}
 
 /// Goes on through the first-start dialog, should it be there.
 void passFirstStart(QTimer &timer)

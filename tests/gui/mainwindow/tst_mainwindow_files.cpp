@@ -72,11 +72,6 @@ private:
         window->get()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->get()));
     }
-    void spoilRowTexts() const
-    {
-        for (int row = 0; row < window->files()->count(); ++row)
-            window->files()->item(row)->setText(u"spoilt"_s);
-    }
 
 private slots:
     void init()
@@ -376,7 +371,7 @@ private slots:
         window->click("buttonPreview");
         window->files()->setCurrentRow(row);
         const QStringList paths = window->rowPaths();
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->click(button.toLatin1().constData());
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->files()->currentRow(), row);
@@ -392,7 +387,7 @@ private slots:
         window->click("buttonPreview");
         const QStringList paths = window->rowPaths();
         window->files()->setCurrentRow(-1);
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->click("buttonFileListDown");
         QCOMPARE(window->rowPaths(), paths);
         QCOMPARE(window->files()->currentRow(), 0);
@@ -435,11 +430,11 @@ private slots:
     {
         window->drop(tree->addFiles(u"%1"_s, 3));
         window->files()->setCurrentRow(0);
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->click("buttonFileListRemove");
         QCOMPARE(window->rowTexts(), QStringList({u"spoilt"_s, u"spoilt"_s}));
         window->click("buttonPreview");
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->click("buttonFileListRemove");
         QCOMPARE(window->rowTexts(), QStringList{u"002"_s});
     }

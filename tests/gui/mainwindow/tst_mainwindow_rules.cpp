@@ -61,12 +61,6 @@ private:
             rules.append(insertRule(text));
         return rules;
     }
-    /// Makes a refresh of the rows visible: their texts are replaced by one that a refresh overwrites.
-    void spoilRowTexts() const
-    {
-        for (int row = 0; row < window->files()->count(); ++row)
-            window->files()->item(row)->setText(u"spoilt"_s);
-    }
 
 private slots:
     void init()
@@ -253,7 +247,7 @@ private slots:
     void addingAlwaysRefreshesTheRows()
     {
         window->drop({tree->addFile(u"a.txt"_s)});
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->addInsert(u"x"_s);
         QCOMPARE(window->rowTexts(), QStringList{u"a.txt"_s});
     }
@@ -327,7 +321,7 @@ private slots:
         window->click("buttonPreview");
         if (selected >= 0)
             window->selectRule(selected);
-        spoilRowTexts();
+        window->spoilRowTexts();
         const QTreeWidgetItem *first = window->ruleTree()->topLevelItem(0);
         window->click(button.toLatin1().constData());
         QCOMPARE(window->rules(), insertRules(u"abc"_s));
@@ -341,7 +335,7 @@ private slots:
         window->drop({tree->addFile(u"f"_s)});
         addThreeRules();
         window->selectRule(0);
-        spoilRowTexts();
+        window->spoilRowTexts();
         window->click("buttonRuleListDown");
         window->click("buttonRuleListUp");
         window->click("buttonRuleListRemove");

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "core/settingsstore.h"
 #include "support/messagecatcher.h"
-#include "support/temptree.h"
+#include "unit/core/settingsfolder.h"
 
 #include "fileidentity.h"
 #include "filesizelimit.h"
@@ -22,7 +21,7 @@ class TestIgnoredSettings final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { folder = std::make_unique<SettingsFolder>(); }
     void cleanup() { folder.reset(); }
     void whatCouldNotBeReadIsKept_data();
     void whatCouldNotBeReadIsKept();
@@ -39,7 +38,7 @@ private slots:
     void fileThatCameMeanwhileIsNoneOfIt();
 
 private:
-    [[nodiscard]] QString file() const { return folder->path(u"config/global.xml"_s); }
+    [[nodiscard]] QString file() const { return folder->file(); }
     [[nodiscard]] QString kept() const { return file() + u".bad"; }
     [[nodiscard]] QStringList configFolder() const { return entriesOf(folder->path(u"config"_s)); }
     /// What it says when it has loaded and saved.
@@ -57,14 +56,8 @@ private:
         return {u"could not be read, and is kept as: "_s + kept()};
     }
 
-    std::unique_ptr<TestFolder> folder;
+    std::unique_ptr<SettingsFolder> folder;
 };
-
-void TestIgnoredSettings::init()
-{
-    folder = std::make_unique<TestFolder>();
-    QVERIFY(QDir().mkdir(u"config"_s));
-}
 
 void TestIgnoredSettings::whatCouldNotBeReadIsKept_data()
 {

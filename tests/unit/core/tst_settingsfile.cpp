@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "core/settingsstore.h"
 #include "support/messagecatcher.h"
-#include "support/temptree.h"
+#include "unit/core/settingsfolder.h"
 
 #include "fileidentity.h"
 
@@ -71,25 +70,14 @@ private slots:
     void fileInThePlaceOfTheConfigFolder();
 
 private:
-    [[nodiscard]] QString file() const { return folder->path(u"config/global.xml"_s); }
-    std::unique_ptr<SettingsStore> newStore() const
-    {
-        auto store = std::make_unique<SettingsStore>();
-        store->setFilePath(file());
-        return store;
-    }
-    static QString language(const SettingsStore &store)
-    {
-        return store.value(SettingKey::MiscLanguage, u"none"_s).toString();
-    }
+    [[nodiscard]] QString file() const { return folder->file(); }
 
-    std::unique_ptr<TestFolder> folder;
+    std::unique_ptr<SettingsFolder> folder;
 };
 
 void TestSettingsFile::init()
 {
-    folder = std::make_unique<TestFolder>();
-    QVERIFY(QDir().mkdir(u"config"_s));
+    folder = std::make_unique<SettingsFolder>();
     QCoreApplication::setApplicationVersion(u"1.2.0.5"_s);
 }
 
@@ -100,9 +88,9 @@ void TestSettingsFile::cleanup()
 
 void TestSettingsFile::freshFolderHasNoFileUntilItIsSaved()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QCOMPARE(language(*store), u"none"_s);
+    QCOMPARE(languageIn(*store), u"none"_s);
     QVERIFY(!QFileInfo::exists(file()));
     store->save();
     QCOMPARE(readFile(file()), "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
@@ -113,7 +101,7 @@ void TestSettingsFile::freshFolderHasNoFileUntilItIsSaved()
 
 void TestSettingsFile::writtenValuesComeBack()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     for (int number = 0; number <= 24; ++number) {
         if (number < 8 || number > 16)
             store->setValue(static_cast<SettingKey>(number), number);
@@ -122,7 +110,7 @@ void TestSettingsFile::writtenValuesComeBack()
     store->save();
     const QByteArray first = readFile(file());
 
-    const auto again = newStore();
+    const auto again = folder->newStore();
     again->load();
     for (int number = 0; number <= 24; ++number) {
         if (number < 8 || number > 16)
@@ -137,9 +125,9 @@ void TestSettingsFile::editedFileIsTakenAsItIs()
 {
     QVERIFY(writeFile(file(), "<Settings><Mine note=\"keep\"><Deeper/></Mine><Misc><Language>fr_FR</Language>"
                               "</Misc><Misc><Language>second</Language></Misc></Settings>"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QCOMPARE(language(*store), u"fr_FR"_s);
+    QCOMPARE(languageIn(*store), u"fr_FR"_s);
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->save();
     const QByteArray xml = readFile(file());
@@ -169,7 +157,7 @@ void TestSettingsFile::textsReadAsTruth()
 {
     QFETCH(QByteArray, text);
     QVERIFY(writeFile(file(), "<Settings><Log><Save>" + text + "</Save></Log></Settings>"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
     QTEST(store->value(SettingKey::LogSave, false).toBool(), "truth");
     QTEST(store->value(SettingKey::LogSave, true).toBool(), "truth");
@@ -252,9 +240,9 @@ void TestSettingsFile::readsWhatHandsMayWrite()
 {
     QFETCH(QByteArray, xml);
     QVERIFY(writeFile(file(), xml));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QTEST(language(*store), "expected");
+    QTEST(languageIn(*store), "expected");
 }
 
 void TestSettingsFile::damagedFileGivesDefaultsAndIsReplaced_data()
@@ -303,10 +291,10 @@ void TestSettingsFile::damagedFileGivesDefaultsAndIsReplaced()
 {
     QFETCH(QByteArray, content);
     QVERIFY(writeFile(file(), content));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     const MessageCatcher catcher;
     store->load();
-    QCOMPARE(language(*store), u"none"_s);
+    QCOMPARE(languageIn(*store), u"none"_s);
     QCOMPARE(catcher.messages(), QStringList());
     QCOMPARE(readFile(file()), content);
 
@@ -327,9 +315,9 @@ void TestSettingsFile::foreignFilesAreNotReadThroughEntities()
     QVERIFY(writeFile(secret, "secret text"));
     QVERIFY(writeFile(file(), "<!DOCTYPE s [<!ENTITY e SYSTEM \"file://" + secret.toUtf8() +
                                   "\">]><Settings><Misc><Language>&e;</Language></Misc></Settings>"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QVERIFY(!language(*store).contains(u"secret"));
+    QVERIFY(!languageIn(*store).contains(u"secret"));
     store->save();
     QVERIFY(!readFile(file()).contains("secret"));
 }
@@ -337,10 +325,10 @@ void TestSettingsFile::foreignFilesAreNotReadThroughEntities()
 void TestSettingsFile::loadingReplacesWhatWasSet()
 {
     QVERIFY(writeFile(file(), "<Settings><Log><Save>true</Save></Log></Settings>"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->load();
-    QCOMPARE(language(*store), u"none"_s);
+    QCOMPARE(languageIn(*store), u"none"_s);
     QVERIFY(store->value(SettingKey::LogSave, false).toBool());
     store->load();
     QVERIFY(store->value(SettingKey::LogSave, false).toBool());
@@ -350,16 +338,16 @@ void TestSettingsFile::loadingReplacesWhatWasSet()
 
 void TestSettingsFile::missingFileLeavesWhatWasSet()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->load();
-    QCOMPARE(language(*store), u"de_DE"_s);
+    QCOMPARE(languageIn(*store), u"de_DE"_s);
 }
 
 void TestSettingsFile::commentOfTheReplacedRootIsGone()
 {
     QVERIFY(writeFile(file(), "<Settings version=\"0.1\"><Log><Save>true</Save></Log></Settings>"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
     store->save();
     QCOMPARE(readFile(file()), "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
@@ -374,7 +362,7 @@ void TestSettingsFile::whatStandsBesideTheRootIsNotKept()
 {
     QVERIFY(
         writeFile(file(), "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?><!--mine--><Settings/><!--too-->"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
     store->save();
     QCOMPARE(readFile(file()),
@@ -383,7 +371,7 @@ void TestSettingsFile::whatStandsBesideTheRootIsNotKept()
 
 void TestSettingsFile::versionIsThatOfTheLastSave()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->save();
     QVERIFY(readFile(file()).contains("<Settings version=\"1.2.0.5\">"));
     QCoreApplication::setApplicationVersion(u"9.8.7.6"_s);
@@ -394,23 +382,23 @@ void TestSettingsFile::versionIsThatOfTheLastSave()
 void TestSettingsFile::folderInThePlaceOfTheFile()
 {
     QVERIFY(QDir().mkpath(file() + u"/inside"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     const MessageCatcher catcher;
     store->load();
-    QCOMPARE(language(*store), u"none"_s);
+    QCOMPARE(languageIn(*store), u"none"_s);
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->save();
     QCOMPARE(catcher.messages(), QStringList(u"could not save: %1"_s.arg(file())));
     QCOMPARE(entriesOf(file()), QStringList(u"inside"_s));
-    QCOMPARE(language(*store), u"de_DE"_s);
+    QCOMPARE(languageIn(*store), u"de_DE"_s);
 }
 
 void TestSettingsFile::pipeInThePlaceOfTheFile()
 {
     QVERIFY(makePipe(file()));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QCOMPARE(language(*store), u"none"_s);
+    QCOMPARE(languageIn(*store), u"none"_s);
     store->setValue(SettingKey::MiscLanguage, u"de_DE"_s);
     store->save();
     QVERIFY(QFileInfo(file()).isFile());
@@ -421,7 +409,7 @@ void TestSettingsFile::fileInThePlaceOfTheConfigFolder()
 {
     QVERIFY(QDir().rmdir(u"config"_s));
     QVERIFY(writeFile(u"config"_s, "mine"));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     const MessageCatcher catcher;
     store->load();
     store->save();

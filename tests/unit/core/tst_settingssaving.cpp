@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "core/settingsstore.h"
 #include "support/messagecatcher.h"
-#include "support/temptree.h"
+#include "unit/core/settingsfolder.h"
 
 #include "fileidentity.h"
 #include "filesizelimit.h"
@@ -22,7 +21,7 @@ class TestSettingsSaving final : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { folder = std::make_unique<SettingsFolder>(); }
     void cleanup() { folder.reset(); }
     void withoutAPathNothingIsSaved();
     void shortWriteKeepsTheOldFile();
@@ -32,26 +31,10 @@ private slots:
     void folderWithoutRoomForANewFileHasTheOldOneWritten();
 
 private:
-    [[nodiscard]] QString file() const { return folder->path(u"config/global.xml"_s); }
-    std::unique_ptr<SettingsStore> newStore() const
-    {
-        auto store = std::make_unique<SettingsStore>();
-        store->setFilePath(file());
-        return store;
-    }
-    static QString language(const SettingsStore &store)
-    {
-        return store.value(SettingKey::MiscLanguage, u"none"_s).toString();
-    }
+    [[nodiscard]] QString file() const { return folder->file(); }
 
-    std::unique_ptr<TestFolder> folder;
+    std::unique_ptr<SettingsFolder> folder;
 };
-
-void TestSettingsSaving::init()
-{
-    folder = std::make_unique<TestFolder>();
-    QVERIFY(QDir().mkdir(u"config"_s));
-}
 
 void TestSettingsSaving::withoutAPathNothingIsSaved()
 {
@@ -66,7 +49,7 @@ void TestSettingsSaving::withoutAPathNothingIsSaved()
 
 void TestSettingsSaving::shortWriteKeepsTheOldFile()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->save();
     const QByteArray before = readFile(file());
     store->setValue(SettingKey::MiscLanguage, QString(100000, u'x'));
@@ -85,9 +68,9 @@ void TestSettingsSaving::savingThroughALinkKeepsTheLink()
     const QString target = folder->path(u"elsewhere.xml"_s);
     QVERIFY(writeFile(target, "<Settings><Misc><Language>de_DE</Language></Misc></Settings>"));
     QVERIFY(QFile::link(target, file()));
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->load();
-    QCOMPARE(language(*store), u"de_DE"_s);
+    QCOMPARE(languageIn(*store), u"de_DE"_s);
     store->setValue(SettingKey::MiscLanguage, u"fr_FR"_s);
     store->save();
     QVERIFY(QFileInfo(file()).isSymLink());
@@ -96,7 +79,7 @@ void TestSettingsSaving::savingThroughALinkKeepsTheLink()
 
 void TestSettingsSaving::savingKeepsThePermissions()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->save();
     const QFile::Permissions permissions =
         QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
@@ -107,7 +90,7 @@ void TestSettingsSaving::savingKeepsThePermissions()
 
 void TestSettingsSaving::savingLeavesNothingBeside()
 {
-    const auto store = newStore();
+    const auto store = folder->newStore();
     for (int i = 0; i < 3; ++i)
         store->save();
     QCOMPARE(entriesOf(folder->path(u"config"_s)), QStringList(u"global.xml"_s));
@@ -117,7 +100,7 @@ void TestSettingsSaving::savingLeavesNothingBeside()
 void TestSettingsSaving::folderWithoutRoomForANewFileHasTheOldOneWritten()
 {
     constexpr QFile::Permissions everything(0x7777);
-    const auto store = newStore();
+    const auto store = folder->newStore();
     store->save();
     QVERIFY(QFile::setPermissions(file(), everything));
     const SeenFile before = identityOf(file());
