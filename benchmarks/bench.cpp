@@ -26,6 +26,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The page of the kind's editor.
+int pageOf(Kind kind)
+{
+    return static_cast<int>(kind);
+}
+
+} // namespace
+
 void prepareBenchmark()
 {
     QApplication::setStyle(u"Fusion"_s);
@@ -84,17 +94,17 @@ Bench::Bench()
     window.show();
     list = window.findChild<ListWidgetFiles *>(u"listWidgetFiles"_s);
     auto *pages = window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s);
-    auto *replace = qobject_cast<RuleWidgetReplace *>(pages->widget(ReplacePage));
+    auto *replace = qobject_cast<RuleWidgetReplace *>(pages->widget(pageOf(Kind::Replace)));
     replace->lineEditReplaceWhat->setText(u"IMG_(\\d+)"_s);
     replace->lineEditReplaceWith->setText(u"Holiday \\1"_s);
     replace->toolButtonRegExp->setChecked(true);
-    auto *insert = qobject_cast<RuleWidgetInsertText *>(pages->widget(InsertTextPage));
+    auto *insert = qobject_cast<RuleWidgetInsertText *>(pages->widget(pageOf(Kind::InsertText)));
     insert->lineEditText->setText(u"new_"_s);
 }
 
-void Bench::addRule(int page)
+void Bench::addRule(Kind kind)
 {
-    window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s)->setCurrentIndex(page);
+    window.findChild<QStackedWidget *>(u"stackedWidgetRules"_s)->setCurrentIndex(pageOf(kind));
     window.on_buttonAddRule_clicked();
 }
 

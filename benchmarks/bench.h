@@ -5,14 +5,13 @@
 
 #include "mainwindow/listwidgetfiles.h"
 #include "mainwindow/mainwindow.h"
+#include "naming/kind.h"
 
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 
 #include <functional>
-
-enum RulePage { ReplacePage, TrimPage, ChangeCasePage, InsertTextPage, EnumeratePage };
 
 /// Sets the application's look, as at every start; needs the QApplication.
 void prepareBenchmark();
@@ -65,8 +64,8 @@ class Bench final
 public:
     Bench();
 
-    /// Adds the rule of a page of the rule editors, with what the editors hold.
-    void addRule(int page);
+    /// Adds a rule of a kind, with what its editor holds.
+    void addRule(Kind kind);
     void clearRules();
     /// Runs the renaming and closes the report. Seconds until the report is there.
     [[nodiscard]] double rename();

@@ -105,9 +105,9 @@ void measureAdding(Bench &bench, const FileTree &tree)
 void measureEditing(Bench &bench, const FileTree &tree)
 {
     auto *preview = bench.window.findChild<QPushButton *>(u"buttonPreview"_s);
-    bench.addRule(ReplacePage);
-    bench.addRule(ChangeCasePage);
-    bench.addRule(EnumeratePage);
+    bench.addRule(Kind::Replace);
+    bench.addRule(Kind::ChangeCase);
+    bench.addRule(Kind::Enumerate);
     preview->setChecked(true);
     printRow("refresh the preview, three rules", tree.count,
              secondsOf([&] { bench.window.on_buttonPreview_clicked(); }));
@@ -143,7 +143,7 @@ void measureRun(Bench &bench, const FileTree &tree)
 {
     const double bare = bareRename(tree);
     printRow("renameat2 alone", tree.count, bare);
-    bench.addRule(InsertTextPage);
+    bench.addRule(Kind::InsertText);
     PauseMeter pauses;
     const double run = bench.rename();
     printRow("the run", tree.count, run);

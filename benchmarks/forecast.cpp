@@ -6,15 +6,8 @@
 
 #include "bench.h"
 
-#include "rules/rule.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
-#include "rules/rulereplace.h"
+#include "naming/chain.h"
 #include "run/forecast.h"
-
-#include <QApplication>
-#include <QLineEdit>
-#include <QToolButton>
 
 #include <cstdio>
 #include <ctime>
@@ -31,38 +24,25 @@ double processorSeconds(const std::function<void()> &action)
     return static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-/// As the editors of the window make them: replace with a pattern, change case, enumerate.
-std::vector<std::unique_ptr<RuleData>> makeChain()
+/// As the editors of the window make it: replace with a pattern, change case, enumerate.
+Chain makeChain()
 {
-    const QList<RuleFactory *> factories = createRuleFactories();
-    std::vector<std::unique_ptr<RuleData>> chain;
-    for (const int page : {ReplacePage, ChangeCasePage, EnumeratePage}) {
-        const Rule *rule = factories.at(page)->create(); // lives as long as its records
-        const std::unique_ptr<QWidget> editor(rule->createEditor(nullptr));
-        if (auto *replace = qobject_cast<RuleWidgetReplace *>(editor.get())) {
-            replace->lineEditReplaceWhat->setText(u"IMG_(\\d+)"_s);
-            replace->lineEditReplaceWith->setText(u"Holiday \\1"_s);
-            replace->toolButtonRegExp->setChecked(true);
-        }
-        chain.emplace_back(rule->createData(editor.get()));
-    }
-    qDeleteAll(factories);
-    return chain;
+    return {{ReplaceParameters(u"IMG_(\\d+)"_s, u"Holiday \\1"_s, true)},
+            {ChangeCaseParameters{.lower = true, .ignoreExtension = true}},
+            {EnumerateParameters{}}};
 }
 
 void measure(const char *shape, int count, const FileTree &tree)
 {
-    static const auto chain = makeChain();
+    static const Chain chain = makeChain();
     QStringList paths;
     for (int i = 0; i < count; ++i)
         paths.append(tree.path(i));
+    QString name;
     const double names = processorSeconds([&] {
         FilePaths split;
-        for (int row = 0; row < count; ++row) {
-            QString name = split.split(paths.at(row)).name();
-            for (const auto &record : chain)
-                name = applyRuleChain(record.get(), name, row);
-        }
+        for (int row = 0; row < count; ++row)
+            name = newName(chain, split.split(paths.at(row)).name(), row);
     });
     int renamed = 0;
     const double both = processorSeconds([&] {
@@ -73,10 +53,7 @@ void measure(const char *shape, int count, const FileTree &tree)
             forecast.add(split.split(path));
         for (int row = 0; row < count; ++row) {
             const FilePath file = split.split(paths.at(row));
-            QString name = file.name();
-            for (const auto &record : chain)
-                name = applyRuleChain(record.get(), name, row);
-            renamed += forecast.next(file, name).isRenamed() ? 1 : 0;
+            renamed += forecast.next(file, newName(chain, file.name(), row)).isRenamed() ? 1 : 0;
         }
     });
     std::printf("%-24s %9d %10.2f %10.2f %10.2f\n", shape, count, names * 1e6 / count,
@@ -90,8 +67,6 @@ void measure(const char *shape, int count, const FileTree &tree)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
     const int most = argc > 1 ? QByteArray(argv[1]).toInt() : 1000000;
     std::printf("%-24s %9s %10s %10s %10s\n", "us/row", "rows", "names", "forecast", "both");
     for (int count = std::min(1000, most); count <= most; count *= 10) {

@@ -33,7 +33,7 @@ int main(int argc, char **argv)
         bench.openInExplorer(folder);
     const double added = secondsOf([&] { bench.window.addPath(folder); });
     QCoreApplication::processEvents();
-    bench.addRule(InsertTextPage);
+    bench.addRule(Kind::InsertText);
     const double renamed = bench.rename();
     std::printf("%d %.6f %.6f\n", bench.list->count(), added, renamed);
     return 0;

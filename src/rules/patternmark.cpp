@@ -3,7 +3,7 @@
 
 #include "rules/patternmark.h"
 
-#include "rules/regexp.h"
+#include "naming/regexp.h"
 
 #include <QAbstractButton>
 #include <QAction>

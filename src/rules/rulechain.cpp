@@ -12,15 +12,11 @@
 
 namespace {
 
-// More than any file system takes as a name. Two rules that put a long text between all characters would
-// exhaust the memory otherwise.
-constexpr qsizetype longestResult = 8192;
-
-template <typename Kind>
+template <typename RuleKind>
 class Factory final : public RuleFactory
 {
 public:
-    [[nodiscard]] Rule *create() const override { return new Kind; }
+    [[nodiscard]] Rule *create() const override { return new RuleKind; }
 };
 
 } // namespace
@@ -33,11 +29,7 @@ QList<RuleFactory *> createRuleFactories()
 
 QString applyRuleChain(const RuleData *data, const QString &name, int fileIndex)
 {
-    if (!data->rule)
-        return {};
-    QString result = data->rule->apply(data, name, fileIndex);
-    result.truncate(longestResult);
-    return result;
+    return data->rule ? data->rule->apply(data, name, fileIndex) : QString();
 }
 
 QString ruleName(const RuleData *data)

@@ -13,8 +13,7 @@ struct RuleData;
 /// Enumerate. The caller owns them.
 [[nodiscard]] QList<RuleFactory *> createRuleFactories();
 
-/// What one rule of the chain makes of a name, its first 8,192 characters at most: no name is that long. A
-/// record without a rule makes it empty.
+/// What one rule of the chain makes of a name. A record without a rule makes it empty.
 [[nodiscard]] QString applyRuleChain(const RuleData *data, const QString &name, int fileIndex);
 
 /// The translated name of the record's kind; empty for a record without a rule.

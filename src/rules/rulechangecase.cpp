@@ -3,146 +3,19 @@
 
 #include "rules/rulechangecase.h"
 
-#include "rules/ruledata.h"
+#include "ui_rulechangecase.h"
 
-#include <QCheckBox>
 #include <QCoreApplication>
-#include <QFileInfo>
-#include <QRadioButton>
-#include <QVBoxLayout>
-
-#include <algorithm>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QString withFirstLettersUpper(const QString &name)
-{
-    QString result;
-    result.reserve(name.size());
-    QChar previous;
-    for (const QChar character : name) {
-        // Deliberate: the previous character is narrowed to Latin-1, so a letter outside it does not count as
-        // one and every character after it is upper-cased. Letters inside a word are never lowered.
-        const bool insideWord = QChar(QLatin1Char(previous.toLatin1())).isLetter();
-        previous = insideWord ? character : character.toUpper();
-        result.append(previous);
-    }
-    return result;
-}
-
-bool isHalf(const QString &name, qsizetype at)
-{
-    const QChar character = name.at(at);
-    if (character.isHighSurrogate())
-        return at + 1 == name.size() || !name.at(at + 1).isLowSurrogate();
-    return character.isLowSurrogate() && (at == 0 || !name.at(at - 1).isHighSurrogate());
-}
-
-/// name after QString::toLower or toUpper. Half a character stays as it is, for a later rule may put the
-/// other half beside it again; QString would write U+FFFD.
-QString converted(const QString &name, QString (*convert)(const QString &))
-{
-    if (name.isValidUtf16())
-        return convert(name);
-    QString result;
-    qsizetype begin = 0;
-    for (qsizetype i = 0; i < name.size(); ++i) {
-        if (!isHalf(name, i))
-            continue;
-        result += convert(name.sliced(begin, i - begin)) + name.at(i);
-        begin = i + 1;
-    }
-    return result + convert(name.sliced(begin));
-}
-
-/// name without every match of ".<extension>$". Deliberate: the extension is used unescaped, the dot stands
-/// for any character, and without an extension the name loses its last character.
-QString withoutExtension(const QString &name, const QString &extension)
-{
-    const auto isPlain = [](QChar c) {
-        return c.isLetterOrNumber() || c == u'_' || c == u'-' || c == u' ';
-    };
-    if (std::all_of(extension.begin(), extension.end(), isPlain)) {
-        // Such a pattern has one match at most, at the very end: no need to compile it for every file.
-        return name.chopped(std::min(name.size(), extension.size() + 1));
-    }
-    return RegExp(u'.' + extension + u'$').removedFrom(name);
-}
-
-} // namespace
-
-QString RuleChangeCase::name() const
-{
-    return QCoreApplication::translate("Rules", "Change Case");
-}
-
-RuleData *RuleChangeCase::createData(const QWidget *editor) const
-{
-    const auto *widget = qobject_cast<const RuleWidgetChangeCase *>(editor);
-    if (!widget)
-        return nullptr;
-    return new RuleData{this, ChangeCaseParameters{widget->radioButtonFirstLetters->isChecked(),
-                                                   widget->radioButtonUpper->isChecked(),
-                                                   widget->radioButtonLower->isChecked(),
-                                                   widget->checkBoxIgnoreExtension->isChecked()}};
-}
-
-QString RuleChangeCase::describe(const RuleData *data) const
-{
-    const auto &parameters = std::get<ChangeCaseParameters>(data->parameters);
-    // Deliberate: the lower and upper texts are crossed over.
-    if (parameters.lower)
-        return QCoreApplication::translate("Rules", "Uppercase letters");
-    if (parameters.upper)
-        return QCoreApplication::translate("Rules", "Lowercase letters");
-    return QCoreApplication::translate("Rules", "Uppercase first letter of each word");
-}
-
-QWidget *RuleChangeCase::createEditor(QWidget *parent) const
-{
-    auto *editor = new RuleWidgetChangeCase(parent);
-    editor->retranslateUi();
-    return editor;
-}
-
-QString RuleChangeCase::apply(const RuleData *data, QString name, int /*fileIndex*/) const
-{
-    const auto &parameters = std::get<ChangeCaseParameters>(data->parameters);
-    QString extension;
-    if (parameters.ignoreExtension) {
-        extension = QFileInfo(name).suffix();
-        name = withoutExtension(name, extension);
-    }
-    QString result;
-    if (parameters.firstLetters)
-        result = withFirstLettersUpper(name);
-    else if (parameters.lower)
-        result = converted(name, [](const QString &text) { return text.toLower(); });
-    else if (parameters.upper)
-        result = converted(name, [](const QString &text) { return text.toUpper(); });
-    // Deliberate: the dot comes back even where there was none.
-    if (parameters.ignoreExtension)
-        result += u'.' + extension;
-    return result;
-}
 
 RuleWidgetChangeCase::RuleWidgetChangeCase(QWidget *parent)
     : RuleWidget(parent)
-    , radioButtonFirstLetters(new QRadioButton(this))
-    , radioButtonUpper(new QRadioButton(this))
-    , radioButtonLower(new QRadioButton(this))
-    , checkBoxIgnoreExtension(new QCheckBox(this))
 {
-    radioButtonLower->setChecked(true);
-    checkBoxIgnoreExtension->setChecked(true);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(radioButtonLower);
-    layout->addWidget(radioButtonUpper);
-    layout->addWidget(radioButtonFirstLetters);
-    layout->addItem(new QSpacerItem(8, 8));
-    layout->addWidget(checkBoxIgnoreExtension);
+    Ui::RuleWidgetChangeCase ui;
+    ui.setupUi(this);
+    radioButtonFirstLetters = ui.radioButtonFirstLetters;
+    radioButtonUpper = ui.radioButtonUpper;
+    radioButtonLower = ui.radioButtonLower;
+    checkBoxIgnoreExtension = ui.checkBoxIgnoreExtension;
 }
 
 void RuleWidgetChangeCase::retranslateUi()
@@ -152,4 +25,10 @@ void RuleWidgetChangeCase::retranslateUi()
     radioButtonUpper->setText(QCoreApplication::translate("Rules", "Uppercase letters"));
     radioButtonLower->setText(QCoreApplication::translate("Rules", "Lowercase letters"));
     checkBoxIgnoreExtension->setText(QCoreApplication::translate("Rules", "Ignore File Extension"));
+}
+
+ChangeCaseParameters RuleWidgetChangeCase::parameters() const
+{
+    return {radioButtonFirstLetters->isChecked(), radioButtonUpper->isChecked(),
+            radioButtonLower->isChecked(), checkBoxIgnoreExtension->isChecked()};
 }

@@ -3,22 +3,11 @@
 
 #pragma once
 
-#include "rules/rule.h"
+#include "rules/ruleofkind.h"
 #include "rules/rulewidget.h"
 
 class QCheckBox;
 class QRadioButton;
-
-/// Changes the case of letters.
-class RuleChangeCase final : public Rule
-{
-public:
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] RuleData *createData(const QWidget *editor) const override;
-    [[nodiscard]] QString describe(const RuleData *data) const override;
-    [[nodiscard]] QWidget *createEditor(QWidget *parent) const override;
-    [[nodiscard]] QString apply(const RuleData *data, QString name, int fileIndex) const override;
-};
 
 class RuleWidgetChangeCase final : public RuleWidget
 {
@@ -27,9 +16,15 @@ class RuleWidgetChangeCase final : public RuleWidget
 public:
     explicit RuleWidgetChangeCase(QWidget *parent);
     void retranslateUi() override;
+    [[nodiscard]] ChangeCaseParameters parameters() const;
 
     QRadioButton *radioButtonFirstLetters;
     QRadioButton *radioButtonUpper;
     QRadioButton *radioButtonLower;
     QCheckBox *checkBoxIgnoreExtension;
+};
+
+/// Changes the case of letters.
+class RuleChangeCase final : public RuleOfKind<Kind::ChangeCase, RuleWidgetChangeCase>
+{
 };

@@ -4,19 +4,10 @@
 #pragma once
 
 #include "rules/directionbox.h"
-#include "rules/rule.h"
+#include "rules/ruleofkind.h"
 #include "rules/rulewidget.h"
 
-/// Inserts a running number: the file's row plus a start number.
-class RuleEnumerate final : public Rule
-{
-public:
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] RuleData *createData(const QWidget *editor) const override;
-    [[nodiscard]] QString describe(const RuleData *data) const override;
-    [[nodiscard]] QWidget *createEditor(QWidget *parent) const override;
-    [[nodiscard]] QString apply(const RuleData *data, QString name, int fileIndex) const override;
-};
+class QSpinBox;
 
 class RuleWidgetEnumerate final : public RuleWidget
 {
@@ -25,6 +16,7 @@ class RuleWidgetEnumerate final : public RuleWidget
 public:
     explicit RuleWidgetEnumerate(QWidget *parent);
     void retranslateUi() override;
+    [[nodiscard]] EnumerateParameters parameters() const;
 
     QSpinBox *spinBoxStartNumber;
     QSpinBox *spinBoxLeadingZeros;
@@ -33,4 +25,9 @@ public:
     QLabel *labelStartNumber;
     QLabel *labelLeadingZeros;
     QLabel *labelPosition;
+};
+
+/// Inserts a running number: the file's row plus a start number.
+class RuleEnumerate final : public RuleOfKind<Kind::Enumerate, RuleWidgetEnumerate>
+{
 };

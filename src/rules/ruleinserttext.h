@@ -4,21 +4,11 @@
 #pragma once
 
 #include "rules/directionbox.h"
-#include "rules/rule.h"
+#include "rules/ruleofkind.h"
 #include "rules/rulewidget.h"
 
 class QLineEdit;
-
-/// Inserts a fixed text at a position.
-class RuleInsertText final : public Rule
-{
-public:
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] RuleData *createData(const QWidget *editor) const override;
-    [[nodiscard]] QString describe(const RuleData *data) const override;
-    [[nodiscard]] QWidget *createEditor(QWidget *parent) const override;
-    [[nodiscard]] QString apply(const RuleData *data, QString name, int fileIndex) const override;
-};
+class QSpinBox;
 
 class RuleWidgetInsertText final : public RuleWidget
 {
@@ -27,10 +17,16 @@ class RuleWidgetInsertText final : public RuleWidget
 public:
     explicit RuleWidgetInsertText(QWidget *parent);
     void retranslateUi() override;
+    [[nodiscard]] InsertTextParameters parameters() const;
 
     QLineEdit *lineEditText;
     QSpinBox *spinBoxPosition;
     DirectionBox direction;
     QLabel *labelText;
     QLabel *labelPosition;
+};
+
+/// Inserts a fixed text at a position.
+class RuleInsertText final : public RuleOfKind<Kind::InsertText, RuleWidgetInsertText>
+{
 };

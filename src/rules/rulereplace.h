@@ -3,24 +3,13 @@
 
 #pragma once
 
-#include "rules/rule.h"
+#include "rules/ruleofkind.h"
 #include "rules/rulewidget.h"
 
 class PatternMark;
 class QLabel;
 class QLineEdit;
 class QToolButton;
-
-/// Replaces every occurrence of a text or pattern.
-class RuleReplace final : public Rule
-{
-public:
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] RuleData *createData(const QWidget *editor) const override;
-    [[nodiscard]] QString describe(const RuleData *data) const override;
-    [[nodiscard]] QWidget *createEditor(QWidget *parent) const override;
-    [[nodiscard]] QString apply(const RuleData *data, QString name, int fileIndex) const override;
-};
 
 class RuleWidgetReplace final : public RuleWidget
 {
@@ -29,11 +18,19 @@ class RuleWidgetReplace final : public RuleWidget
 public:
     explicit RuleWidgetReplace(QWidget *parent);
     void retranslateUi() override;
+    [[nodiscard]] ReplaceParameters parameters() const;
 
     QLineEdit *lineEditReplaceWhat;
     QLineEdit *lineEditReplaceWith;
     QToolButton *toolButtonRegExp;
     QLabel *labelReplaceWhat;
     QLabel *labelReplaceWith;
+
+private:
     PatternMark *patternMark;
+};
+
+/// Replaces every occurrence of a text or pattern.
+class RuleReplace final : public RuleOfKind<Kind::Replace, RuleWidgetReplace>
+{
 };

@@ -4,19 +4,10 @@
 #pragma once
 
 #include "rules/directionbox.h"
-#include "rules/rule.h"
+#include "rules/ruleofkind.h"
 #include "rules/rulewidget.h"
 
-/// Removes a run of characters.
-class RuleTrim final : public Rule
-{
-public:
-    [[nodiscard]] QString name() const override;
-    [[nodiscard]] RuleData *createData(const QWidget *editor) const override;
-    [[nodiscard]] QString describe(const RuleData *data) const override;
-    [[nodiscard]] QWidget *createEditor(QWidget *parent) const override;
-    [[nodiscard]] QString apply(const RuleData *data, QString name, int fileIndex) const override;
-};
+class QSpinBox;
 
 class RuleWidgetTrim final : public RuleWidget
 {
@@ -25,10 +16,16 @@ class RuleWidgetTrim final : public RuleWidget
 public:
     explicit RuleWidgetTrim(QWidget *parent);
     void retranslateUi() override;
+    [[nodiscard]] TrimParameters parameters() const;
 
     QSpinBox *spinBoxPosition;
     QSpinBox *spinBoxLength;
     DirectionBox direction;
     QLabel *labelPosition;
     QLabel *labelLength;
+};
+
+/// Removes a run of characters.
+class RuleTrim final : public RuleOfKind<Kind::Trim, RuleWidgetTrim>
+{
 };

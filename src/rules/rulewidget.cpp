@@ -4,10 +4,16 @@
 #include "rules/rulewidget.h"
 
 #include <QEvent>
+#include <QSpinBox>
 
 RuleWidget::RuleWidget(QWidget *parent)
     : QWidget(parent)
 {
+}
+
+void RuleWidget::setRange(QSpinBox *spinBox, Range range)
+{
+    spinBox->setRange(range.least, range.most);
 }
 
 void RuleWidget::changeEvent(QEvent *event)

@@ -3,7 +3,11 @@
 
 #pragma once
 
+#include "naming/parameters.h"
+
 #include <QWidget>
+
+class QSpinBox;
 
 /// The editor of one rule kind: follows the language by setting all its texts anew.
 class RuleWidget : public QWidget
@@ -17,5 +21,7 @@ public:
     virtual void retranslateUi() = 0;
 
 protected:
+    /// Lets the spin box take what the parameter may be; it starts at its least.
+    static void setRange(QSpinBox *spinBox, Range range);
     void changeEvent(QEvent *event) override;
 };

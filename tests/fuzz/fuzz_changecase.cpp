@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzztarget.h"
-#include "rules/rulechain.h"
-#include "rules/rulechangecase.h"
-#include "rules/ruledata.h"
+#include "naming/describe.h"
+#include "naming/transform.h"
 
 #include <algorithm>
 
@@ -62,7 +61,6 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const RuleChangeCase rule;
     FuzzInput input(data, size);
     ChangeCaseParameters parameters;
     const int choice = input.number(0, 3); // the last: no choice, which no editor gives
@@ -72,8 +70,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     parameters.ignoreExtension = input.flag();
     // What file systems take; the time of a pattern grows with the square.
     const QString name = input.line().left(64);
-    const RuleData record{&rule, parameters};
-    const QString result = applyRuleChain(&record, name, 0);
+    const Parameters rule = parameters;
+    const QString result = transformed(rule, name, 0);
     const QString extension = extensionOf(name);
     if (!parameters.ignoreExtension) {
         FUZZ_VERIFY(isCaseOf(result, name, choice), result);
@@ -89,6 +87,6 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         // capitals.
         FUZZ_VERIFY(body.size() <= 3 * name.size(), result);
     }
-    FUZZ_VERIFY(!ruleDescription(&record).isEmpty(), name);
+    FUZZ_VERIFY(!description(rule).isEmpty(), name);
     return 0;
 }

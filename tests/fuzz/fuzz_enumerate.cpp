@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzztarget.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
-#include "rules/ruleenumerate.h"
+#include "naming/describe.h"
+#include "naming/transform.h"
 
 namespace {
 
@@ -31,19 +30,18 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const RuleEnumerate rule;
     FuzzInput input(data, size);
     EnumerateParameters parameters;
     parameters.fromStart = input.flag();
-    parameters.leadingZeros = input.number(0, 9);
-    parameters.startNumber = input.number(0, 512);
-    parameters.position = input.number(0, 512);
+    parameters.leadingZeros = input.number(leadingZerosRange.least, leadingZerosRange.most);
+    parameters.startNumber = input.number(startNumberRange.least, startNumberRange.most);
+    parameters.position = input.number(positionRange.least, positionRange.most);
     // Up to the last row that an int can name.
     const int row = input.number(0, 0x7fff) * 0x10000 + input.number(0, 0xffff);
     const QString name = input.line();
-    const RuleData record{&rule, parameters};
-    const QString result = applyRuleChain(&record, name, row);
+    const Parameters rule = parameters;
+    const QString result = transformed(rule, name, row);
     FUZZ_VERIFY(result == expected(name, parameters, row), result);
-    FUZZ_VERIFY(!ruleDescription(&record).isEmpty(), name);
+    FUZZ_VERIFY(!description(rule).isEmpty(), name);
     return 0;
 }

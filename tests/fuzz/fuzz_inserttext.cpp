@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzztarget.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
-#include "rules/ruleinserttext.h"
+#include "naming/describe.h"
+#include "naming/transform.h"
 
 namespace {
 
@@ -27,16 +26,15 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const RuleInsertText rule;
     FuzzInput input(data, size);
     InsertTextParameters parameters;
     parameters.fromStart = input.flag();
-    parameters.position = input.number(0, 512);
+    parameters.position = input.number(positionRange.least, positionRange.most);
     parameters.text = input.line();
     const QString name = input.line();
-    const RuleData record{&rule, parameters};
-    const QString result = applyRuleChain(&record, name, 0);
+    const Parameters rule = parameters;
+    const QString result = transformed(rule, name, 0);
     FUZZ_VERIFY(result == expected(name, parameters), result);
-    FUZZ_VERIFY(ruleDescription(&record).contains(parameters.text), ruleDescription(&record));
+    FUZZ_VERIFY(description(rule).contains(parameters.text), description(rule));
     return 0;
 }

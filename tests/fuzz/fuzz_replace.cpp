@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzztarget.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
-#include "rules/rulereplace.h"
+#include "naming/describe.h"
+#include "naming/transform.h"
 
 namespace {
 
-// Of what a rule makes the chain keeps so many characters; docs/patterns.md says why.
+// Of what a rule makes so many characters are kept; docs/patterns.md says why.
 constexpr qsizetype longestResult = 8192;
 
 /// Written apart from the rule: one match after the other, from the start.
@@ -62,22 +61,18 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const RuleReplace rule;
     FuzzInput input(data, size);
-    ReplaceParameters parameters;
-    parameters.regExp = input.flag();
-    parameters.replaceWhat = input.line();
-    parameters.replaceWith = input.line();
+    const bool isPattern = input.flag();
+    const QString what = input.line();
+    const ReplaceParameters parameters(what, input.line(), isPattern);
     // The time of a pattern grows with the square of the name's length, and sanitizers take their share.
     const QString name = input.line().left(parameters.regExp ? 32 : 1000);
-    if (parameters.regExp)
-        parameters.pattern = RegExp(parameters.replaceWhat);
-    const RuleData record{&rule, parameters};
-    const QString result = applyRuleChain(&record, name, 0);
+    const Parameters rule = parameters;
+    const QString result = transformed(rule, name, 0);
     if (parameters.regExp)
         verifyPattern(parameters.pattern, name, parameters.replaceWith, result);
     else
         verifyLiteral(name, parameters, result);
-    FUZZ_VERIFY(ruleDescription(&record).contains(parameters.replaceWith), ruleDescription(&record));
+    FUZZ_VERIFY(description(rule).contains(parameters.replaceWith), description(rule));
     return 0;
 }

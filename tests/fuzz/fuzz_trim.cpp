@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fuzztarget.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
-#include "rules/ruletrim.h"
+#include "naming/describe.h"
+#include "naming/transform.h"
 
 namespace {
 
@@ -39,16 +38,15 @@ int LLVMFuzzerInitialize(int * /*argc*/, char *** /*argv*/)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const RuleTrim rule;
     FuzzInput input(data, size);
     TrimParameters parameters;
     parameters.fromStart = input.flag();
-    parameters.position = input.number(0, 512);
-    parameters.length = input.number(1, 512);
+    parameters.position = input.number(positionRange.least, positionRange.most);
+    parameters.length = input.number(lengthRange.least, lengthRange.most);
     const QString name = input.line();
-    const RuleData record{&rule, parameters};
-    const QString result = applyRuleChain(&record, name, 0);
+    const Parameters rule = parameters;
+    const QString result = transformed(rule, name, 0);
     FUZZ_VERIFY(result == expected(name, parameters), result);
-    FUZZ_VERIFY(!ruleDescription(&record).isEmpty(), name);
+    FUZZ_VERIFY(!description(rule).isEmpty(), name);
     return 0;
 }

@@ -50,5 +50,5 @@ for path in checked:
     if path.suffix == ".h" and "#pragma once" not in text:
         problems.append(f"{path}: lacks #pragma once.")
     if re.search(r"\bQRegExp\b", text) and path.parts[0] == "src" and path.stem != "regexp":
-        problems.append(f"{path}: names QRegExp. Only src/rules/regexp.h and .cpp do; use RegExp.")
+        problems.append(f"{path}: names QRegExp. Only src/naming/regexp.h and .cpp do; use RegExp.")
 sources.finish(problems, len(checked))

@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "rules/directionbox.h"
 #include "rules/rulewidget.h"
 #include "unit/support/editors.h"
-
-#include <QSpinBox>
 
 using namespace Qt::StringLiterals;
 
@@ -33,8 +30,6 @@ private slots:
     void onlyALanguageChangeRetranslates();
     void languageChangeIsAcceptedAndGoesNoFurther();
     void otherChangesGoToTheWidget();
-    void spinBoxesStartAtTheirMinimum();
-    void directionNamesFollowTheLanguage();
 };
 
 void TestRuleWidget::isAPlainChildOfItsParent()
@@ -79,25 +74,6 @@ void TestRuleWidget::otherChangesGoToTheWidget()
     QEvent event(QEvent::PaletteChange);
     QCoreApplication::sendEvent(&widget, &event);
     QTRY_VERIFY(widget.paintings > before);
-}
-
-void TestRuleWidget::spinBoxesStartAtTheirMinimum()
-{
-    QWidget parent;
-    const QSpinBox *spinBox = createSpinBox(&parent, 3, 12);
-    QCOMPARE(spinBox->parentWidget(), &parent);
-    QCOMPARE(spinBox->minimum(), 3);
-    QCOMPARE(spinBox->maximum(), 12);
-    QCOMPARE(spinBox->value(), 3);
-}
-
-void TestRuleWidget::directionNamesFollowTheLanguage()
-{
-    QCOMPARE(directionName(true), u"Start"_s);
-    QCOMPARE(directionName(false), u"End"_s);
-    const BracketTranslator translator;
-    QCOMPARE(directionName(true), u"[Start]"_s);
-    QCOMPARE(directionName(false), u"[End]"_s);
 }
 
 QTEST_MAIN(TestRuleWidget)

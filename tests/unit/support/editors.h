@@ -5,7 +5,7 @@
 
 #include "rules/rule.h"
 #include "rules/ruledata.h"
-#include "support/faketranslator.h"
+#include "unit/support/brackettranslator.h"
 
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -15,18 +15,6 @@
 #include <QWidget>
 
 #include <memory>
-
-/// "Rules" translated into itself with brackets around it; every other context stays untranslated.
-class BracketTranslator final : public FakeTranslator
-{
-public:
-    BracketTranslator()
-        : FakeTranslator([](QLatin1StringView context, const QString &text) {
-            return context == QLatin1StringView("Rules") ? u'[' + text + u']' : QString();
-        })
-    {
-    }
-};
 
 /// "QLabel:Position" for a label or button, "QSpinBox" for a widget that shows no text of its own.
 inline QString widgetLine(const QWidget *widget)
@@ -120,21 +108,6 @@ inline void verifyAcceptsLanguageChange(QWidget &editor)
     other.ignore();
     QCoreApplication::sendEvent(&editor, &other);
     QVERIFY(!other.isAccepted());
-}
-
-/// What the rule makes of a name with these parameters.
-template <typename Parameters>
-QString applied(const Rule &rule, Parameters parameters, const QString &name, int fileIndex = 0)
-{
-    const RuleData data{&rule, std::move(parameters)};
-    return rule.apply(&data, name, fileIndex);
-}
-
-template <typename Parameters>
-QString described(const Rule &rule, Parameters parameters)
-{
-    const RuleData data{&rule, std::move(parameters)};
-    return rule.describe(&data);
 }
 
 /// The parameters that the rule reads from the editor.
