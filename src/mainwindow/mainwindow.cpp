@@ -16,6 +16,8 @@
 #include "mainwindow/explorermodel.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/forecastlabel.h"
+#include "mainwindow/logdelegate.h"
+#include "mainwindow/progressdialog.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -82,6 +84,7 @@ void MainWindow::initialize()
     createLogo();
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());
+    ui->tableWidgetLog->setItemDelegate(new LogDelegate(ui->tableWidgetLog));
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
     logTimer->setInterval(logTimerInterval);
@@ -226,6 +229,10 @@ void MainWindow::checkForNewVersion()
     if (!SettingsStore::instance()->value(SettingKey::VersionCheckAuto, true).toBool())
         return;
     auto *check = new VersionCheck(this); // deletes itself
+    // A run or an adding of files waits inside an event loop, which a box would not leave.
+    check->isParentBusy = [this] {
+        return findChild<ProgressDialog *>() || ui->listWidgetFiles->isHandlingDrop();
+    };
     check->check(false);
 }
 
@@ -288,6 +295,7 @@ void MainWindow::onClicked(int id)
 void MainWindow::editSettings()
 {
     DialogSettings dialog(this);
+    dialog.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
     if (dialog.exec() == QDialog::Accepted)
         dialog.save();
 }
@@ -335,5 +343,8 @@ void MainWindow::changeEvent(QEvent *event)
         event->accept();
         return;
     }
+    // Window managers do not know any more which dialog belongs to a native window that was made anew.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        raiseDialogs();
     QMainWindow::changeEvent(event);
 }

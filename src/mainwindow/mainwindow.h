@@ -16,6 +16,7 @@
 class Explorer;
 class Fates;
 class ProgressDialog;
+class QDialog;
 class QPushButton;
 class QSignalMapper;
 class QTreeView;
@@ -98,6 +99,10 @@ private:
     void editSettings();
 
     void retranslateTrayMenu();
+    void adoptDialogs();
+    /// Each before those that it opened itself.
+    [[nodiscard]] QList<QDialog *> openDialogs() const;
+    void raiseDialogs();
     void restoreWindowGeometry();
     void saveWindowSettings();
     void requestSupport();
@@ -126,6 +131,8 @@ private:
     QSystemTrayIcon *trayIcon = nullptr;
     /// Runs while the window is in the tray; belongs to its icon.
     QTimer *trayWatch = nullptr;
+    /// As saveGeometry() tells it; empty while the window is not in the tray.
+    QByteArray placeBeforeTray;
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     Explorer *explorer = nullptr;
