@@ -98,6 +98,7 @@ private slots:
         QCOMPARE(data(5, Qt::AccessibleDescriptionRole), u"Not renamed: the file is not there."_s);
         QCOMPARE(data(0, Qt::ToolTipRole), QString());
         QCOMPARE(window->rowTexts(), QStringList({u"first"_s, u"2"_s, u"3"_s, u"x"_s, u"y"_s, u"gone"_s}));
+        window->get()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->get()));
         QTest::keyClick(window->get(), Qt::Key_F8);
         QCOMPARE(window->files()->currentRow(), 1);
@@ -153,22 +154,27 @@ private slots:
         QString all;
         QString one;
         bool isBoxOpen = false;
-        const ModalAnswer report([&](QDialog *box) {
+        BoxAnswerer boxes;
+        boxes.beforeAnswer = [&](QMessageBox *box) {
             const ModalAnswer details([&](QDialog *dialog) {
-                auto *view = dialog->findChild<QTreeView *>(u"treeFailures"_s);
+                const auto *view = dialog->findChild<QTreeView *>(u"treeFailures"_s);
                 shown = textsOf(*view->model());
                 QVERIFY(view->isExpanded(view->model()->index(0, 0)));
                 dialog->findChild<QPushButton *>(u"buttonCopy"_s)->click();
                 all = QGuiApplication::clipboard()->text();
                 const QModelIndex missing = view->model()->index(1, 0);
-                view->setCurrentIndex(view->model()->index(0, 0, missing));
+                view->selectionModel()->setCurrentIndex(view->model()->index(0, 0, missing),
+                                                        QItemSelectionModel::ClearAndSelect |
+                                                            QItemSelectionModel::Rows);
+                dialog->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(dialog));
                 QTest::keySequence(dialog, QKeySequence::Copy);
                 one = QGuiApplication::clipboard()->text();
             });
-            detailsButton(qobject_cast<QMessageBox *>(box))->click();
+            detailsButton(box)->click();
             QVERIFY(details.isDone());
             isBoxOpen = box->isVisible();
-        });
+        };
         runWithTrouble();
         QVERIFY(isBoxOpen);
         QCOMPARE(shown, QStringList({u"2: the name is taken"_s, u"  2 > first"_s, u"  3 > taken"_s,
