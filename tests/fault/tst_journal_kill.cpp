@@ -213,7 +213,7 @@ private slots:
     {
         plant(filesOfALongRun);
         const int kills = environmentNumber("ORVANTO_JOURNAL_KILLS", 6);
-        const auto seed = QRandomGenerator::system()->generate();
+        const quint32 seed = randomSeed();
         QRandomGenerator random(seed);
         QList<int> renamed;
         for (int i = 0; i < kills; ++i) {

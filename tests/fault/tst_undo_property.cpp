@@ -288,7 +288,7 @@ private slots:
     {
         QFETCH(const QString, place);
         QFETCH(const int, rounds);
-        const auto seed = QRandomGenerator::system()->generate();
+        const quint32 seed = randomSeed();
         for (int i = 0; i < rounds; ++i) {
             const QTemporaryDir folder(place + u"/orvanto-test-XXXXXX"_s);
             adventure(seed + static_cast<quint32>(i), folder.path());

@@ -30,6 +30,7 @@ private slots:
     void opacityOutOfRangeBecomesFullAndIsWrittenBack_data();
     void opacityOutOfRangeBecomesFullAndIsWrittenBack();
     void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
+    void layoutIsRestoredOnlyWhenAskedFor();
     void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
     void withoutATrayTheWindowIsMinimizedWhateverTheSettingSays();
     void onlyTheWindowSystemMinimizesIntoTheTray();
@@ -115,6 +116,24 @@ void MainWindowState::geometryAndLayoutAreLeftAloneWhileRestoringIsOff()
     QCOMPARE(store->value(SettingKey::WindowLayoutData, {}).toString(), u"stale"_s);
 }
 
+void MainWindowState::layoutIsRestoredOnlyWhenAskedFor()
+{
+    SettingsStore *store = SettingsStore::instance();
+    {
+        MainWindow window({});
+        window.initialize();
+        window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->hide();
+        store->setValue(SettingKey::WindowLayoutData, QString::fromLatin1(window.saveState(0).toHex()));
+    }
+    for (const bool restores : {false, true}) {
+        store->setValue(SettingKey::WindowLayoutRestore, restores);
+        MainWindow window({});
+        window.initialize();
+        window.restoreWindowSettings();
+        QCOMPARE(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isHidden(), restores);
+    }
+}
+
 void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
 {
     MainWindow window({});
@@ -125,6 +144,8 @@ void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
     QVERIFY(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isVisible());
     window.close();
     QCOMPARE(SettingsStore::instance()->value(SettingKey::MiscIsFirstStart, {}).toString(), u"false"_s);
+    // Saved at once, whatever may come between the closing and the end.
+    QVERIFY(settings->tree.content(u"config/global.xml"_s).contains("<IsFirstStart>false</IsFirstStart>"));
 }
 
 void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
