@@ -23,7 +23,5 @@ function(orvanto_library folder)
     set_target_properties(orvanto_${folder} PROPERTIES
         AUTOUIC ON
         AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/forms")
-    if("Qt6::Widgets" IN_LIST ARG_USES)
-        orvanto_precompiled(orvanto_${folder})
-    endif()
+    orvanto_precompiled(orvanto_${folder})
 endfunction()

@@ -10,20 +10,30 @@ if(CMAKE_CXX_COMPILER_LAUNCHER)
     set(ORVANTO_PRECOMPILE OFF)
 endif()
 
+set(core_headers
+    <QDir> <QDirIterator> <QFile> <QFileInfo> <QHash> <QMap> <QObject> <QRegularExpression> <QStringList>
+    <QTemporaryDir> <QTimer> <QUrl> <functional> <memory> <optional>)
+set(widget_headers
+    <QAbstractItemView> <QApplication> <QBoxLayout> <QDialog> <QLabel> <QListWidget> <QMainWindow> <QMenu>
+    <QMessageBox> <QPainter> <QPushButton> <QTreeWidget>)
+
+# orvanto_add_precompiled(name headers...): a target whose precompiled headers others use.
+function(orvanto_add_precompiled name)
+    file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
+    add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    target_link_libraries(${name} PRIVATE orvanto_options)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+
 if(ORVANTO_PRECOMPILE)
-    file(CONFIGURE OUTPUT precompiled.cpp CONTENT "")
-    add_library(orvanto_precompiled OBJECT "${CMAKE_CURRENT_BINARY_DIR}/precompiled.cpp")
     # With the macros that all targets have, whatever else they link: the compiler uses it under no others.
-    target_link_libraries(orvanto_precompiled PRIVATE orvanto_options Qt6::Core)
+    orvanto_add_precompiled(orvanto_precompiled ${core_headers} ${widget_headers})
+    target_link_libraries(orvanto_precompiled PRIVATE Qt6::Core)
     foreach(module Gui Widgets)
         target_include_directories(orvanto_precompiled SYSTEM PRIVATE
             $<TARGET_PROPERTY:Qt6::${module},INTERFACE_INCLUDE_DIRECTORIES>)
     endforeach()
-    # Not those of Qt Test: they name a macro that is another one for each test.
-    target_precompile_headers(orvanto_precompiled PRIVATE
-        <QAbstractItemView> <QApplication> <QBoxLayout> <QDialog> <QDir> <QDirIterator> <QFile> <QFileInfo> <QLabel>
-        <QListWidget> <QMainWindow> <QMenu> <QMessageBox> <QPainter> <QPushButton> <QRegularExpression> <QTemporaryDir>
-        <QTimer> <QTreeWidget> <QUrl>)
 endif()
 
 # orvanto_precompiled(target): for targets that link Qt.
@@ -31,4 +41,33 @@ function(orvanto_precompiled target)
     if(ORVANTO_PRECOMPILE)
         target_precompile_headers(${target} REUSE_FROM orvanto_precompiled)
     endif()
+endfunction()
+
+# orvanto_empty_moc(target): for targets whose classes with slots stand in their .cpp files. What Qt makes of
+# their headers is empty then, and compiles faster without the precompiled ones. A target that lists headers is left
+# as it is.
+function(orvanto_empty_moc target)
+    get_target_property(sources ${target} SOURCES)
+    if(NOT sources MATCHES "\\.h(;|$)")
+        set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp"
+            PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    endif()
+endfunction()
+
+# orvanto_links_widgets(variable target): whether it links Qt's widgets, itself or by what it links.
+function(orvanto_links_widgets variable target)
+    get_target_property(libraries ${target} LINK_LIBRARIES)
+    foreach(library IN LISTS libraries)
+        if(library STREQUAL "Qt6::Widgets")
+            set(${variable} ON PARENT_SCOPE)
+            return()
+        elseif(library MATCHES "^orvanto_" AND NOT library STREQUAL "orvanto_options")
+            orvanto_links_widgets(found ${library})
+            if(found)
+                set(${variable} ON PARENT_SCOPE)
+                return()
+            endif()
+        endif()
+    endforeach()
+    set(${variable} OFF PARENT_SCOPE)
 endfunction()

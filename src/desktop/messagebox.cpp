@@ -3,9 +3,10 @@
 
 #include "desktop/messagebox.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QPointer>
 #include <QPushButton>
+#include <QWindow>
 
 QMessageBox *createMessageBox(QWidget *parent, QMessageBox::Icon icon)
 {
@@ -34,6 +35,11 @@ void addCloseButton(QMessageBox *box, const QString &text)
 int execMessageBox(QMessageBox *box)
 {
     const QPointer<QMessageBox> guard(box);
+    // Not all windows: the icon in the tray stays alive.
+    box->setWindowModality(Qt::WindowModal);
+    // But an open dialog, too, where both belong to the same window.
+    if (const QWidget *dialog = QApplication::activeModalWidget(); dialog && box->winId() != 0)
+        box->windowHandle()->setTransientParent(dialog->windowHandle());
     const int result = box->exec();
     if (!guard)
         return QMessageBox::NoButton;

@@ -134,7 +134,16 @@ void DialogSettings::retranslate()
 
 void DialogSettings::on_pushButtonUpdate_clicked()
 {
-    (new VersionCheck(parent()))->check(true);
+    auto *check = new VersionCheck(parent()); // deletes itself, with the answer
+    // The next button would have the focus, and a second press.
+    setFocus();
+    ui->pushButtonUpdate->setEnabled(false);
+    connect(check, &QObject::destroyed, this, [this] {
+        ui->pushButtonUpdate->setEnabled(true);
+        if (focusWidget() == this)
+            ui->pushButtonUpdate->setFocus();
+    });
+    check->check(true);
 }
 
 void DialogSettings::on_pushButtonDonate_clicked()

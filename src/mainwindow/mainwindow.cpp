@@ -14,6 +14,8 @@
 #include "mainwindow/commandids.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/logdelegate.h"
+#include "mainwindow/progressdialog.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -78,6 +80,7 @@ void MainWindow::initialize()
     createLogo();
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());
+    ui->tableWidgetLog->setItemDelegate(new LogDelegate(ui->tableWidgetLog));
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
     logTimer->setInterval(logTimerInterval);
@@ -222,6 +225,10 @@ void MainWindow::checkForNewVersion()
     if (!SettingsStore::instance()->value(SettingKey::VersionCheckAuto, true).toBool())
         return;
     auto *check = new VersionCheck(this); // deletes itself
+    // A run or an adding of files waits inside an event loop, which a box would not leave.
+    check->isParentBusy = [this] {
+        return findChild<ProgressDialog *>() || ui->listWidgetFiles->isHandlingDrop();
+    };
     check->check(false);
 }
 
@@ -284,6 +291,7 @@ void MainWindow::onClicked(int id)
 void MainWindow::editSettings()
 {
     DialogSettings dialog(this);
+    dialog.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
     if (dialog.exec() == QDialog::Accepted)
         dialog.save();
 }
@@ -331,5 +339,8 @@ void MainWindow::changeEvent(QEvent *event)
         event->accept();
         return;
     }
+    // Window managers do not know any more which dialog belongs to a native window that was made anew.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        raiseDialogs();
     QMainWindow::changeEvent(event);
 }

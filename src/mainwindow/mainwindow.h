@@ -15,6 +15,7 @@
 
 class Explorer;
 class ProgressDialog;
+class QDialog;
 class QPushButton;
 class QSignalMapper;
 class QTreeView;
@@ -97,6 +98,10 @@ private:
     void editSettings();
 
     void retranslateTrayMenu();
+    void adoptDialogs();
+    /// Each before those that it opened itself.
+    [[nodiscard]] QList<QDialog *> openDialogs() const;
+    void raiseDialogs();
     void restoreWindowGeometry();
     void saveWindowSettings();
     void requestSupport();
@@ -124,6 +129,8 @@ private:
     QSystemTrayIcon *trayIcon = nullptr;
     /// Runs while the window is in the tray; belongs to its icon.
     QTimer *trayWatch = nullptr;
+    /// As saveGeometry() tells it; empty while the window is not in the tray.
+    QByteArray placeBeforeTray;
     QDockWidget *dockExplorer = nullptr;
     QTreeView *treeExplorer = nullptr;
     Explorer *explorer = nullptr;

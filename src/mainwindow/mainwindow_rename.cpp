@@ -99,6 +99,7 @@ void MainWindow::showReport(const RenameRun &run)
                            u' ' + QString::number(run.failed());
     QMessageBox box(this);
     box.setWindowTitle(tr("Report"));
+    box.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
     box.setIcon(QMessageBox::Information);
     box.setStyleSheet(u"QLabel{color:#444;font: bold 10pt}"_s);
     box.setText(report);

@@ -123,11 +123,42 @@ void MainWindow::onRestoreWindow()
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     if (trayWatch)
         trayWatch->stop();
+    placeBeforeTray.clear();
+    adoptDialogs();
     if (isMaximized())
         show();
     else
         showNormal();
     activateWindow();
+    raiseDialogs();
+}
+
+void MainWindow::adoptDialogs()
+{
+    create();
+    const auto dialogs = findChildren<QDialog *>(Qt::FindDirectChildrenOnly);
+    for (const QDialog *dialog : dialogs) {
+        // The native window that it blocked is gone.
+        if (QWindow *window = dialog->windowHandle(); window && !window->transientParent())
+            window->setTransientParent(windowHandle());
+    }
+}
+
+QList<QDialog *> MainWindow::openDialogs() const
+{
+    QList<QDialog *> dialogs = findChildren<QDialog *>();
+    dialogs.removeIf([](const QDialog *dialog) { return dialog->isHidden(); });
+    return dialogs;
+}
+
+void MainWindow::raiseDialogs()
+{
+    const auto dialogs = openDialogs();
+    for (QDialog *dialog : dialogs) {
+        dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
+        dialog->raise();
+        dialog->activateWindow();
+    }
 }
 
 void MainWindow::minimizeWindow()
@@ -137,6 +168,12 @@ void MainWindow::minimizeWindow()
         showMinimized();
         return;
     }
+    // The native window that is made anew stands where the frame of the old one did.
+    if (placeBeforeTray.isEmpty())
+        placeBeforeTray = saveGeometry();
+    const auto dialogs = openDialogs();
+    for (QDialog *dialog : dialogs)
+        dialog->setWindowState(dialog->windowState() | Qt::WindowMinimized);
     // Changing the flags hides the window.
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     if (QWindow *window = windowHandle()) {
@@ -223,8 +260,10 @@ void MainWindow::saveWindowSettings()
     settings->setValue(SettingKey::LogSave, ui->checkBoxSaveLog->isChecked());
     settings->setValue(SettingKey::WindowStayOnTop, windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     settings->setValue(SettingKey::WindowOpacity, roundedToTwoDecimals(windowOpacity()));
-    if (settings->value(SettingKey::WindowGeometryRestore, false).toBool())
-        settings->setValue(SettingKey::WindowGeometryData, QString::fromLatin1(saveGeometry().toHex()));
+    if (settings->value(SettingKey::WindowGeometryRestore, false).toBool()) {
+        const QByteArray place = placeBeforeTray.isEmpty() ? saveGeometry() : placeBeforeTray;
+        settings->setValue(SettingKey::WindowGeometryData, QString::fromLatin1(place.toHex()));
+    }
     if (settings->value(SettingKey::WindowLayoutRestore, false).toBool())
         settings->setValue(SettingKey::WindowLayoutData, QString::fromLatin1(saveState(0).toHex()));
     settings->setValue(SettingKey::MiscIsFirstStart, false);
@@ -243,8 +282,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
     closesAfterDrop = ui->listWidgetFiles->isHandlingDrop();
     if (closesAfterDrop)
         return;
-    if (!closesQuietly)
+    if (!closesQuietly) {
+        // The tray's menu can close the window while it asks already.
+        if (findChild<DialogNotice *>()) {
+            raiseDialogs();
+            return;
+        }
         requestSupport();
+    }
     saveWindowSettings();
     event->accept();
     if (closed)
@@ -257,6 +302,7 @@ void MainWindow::requestSupport()
     if (!settings->valueByName(supportUsHint, true).toBool())
         return;
     DialogNotice dialog(this, QPixmap(u":/img/contribute.png"_s));
+    dialog.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
     dialog.labelAdvice()->setText(supportRequest());
     dialog.exec();
     if (dialog.checkBox()->isChecked())

@@ -39,7 +39,7 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setStyleSheet(u"QLabel,QProgressBar{font:bold 11pt;color:#444}"_s);
     resize(320, 110);
-    setModal(true);
+    setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
 
     buttonCancel->setText(QCoreApplication::translate("QDialog", "Cancel"));
     buttonCancel->setIcon(QIcon(u":/img/cancel.png"_s));

@@ -3,6 +3,8 @@
 
 #include "run/outcome.h"
 
+#include "platform/filerename.h"
+
 using namespace Qt::StringLiterals;
 
 QString idOf(Fate fate)
@@ -36,6 +38,27 @@ QString idOf(Fate fate)
         return u"unknown"_s;
     case Fate::NoFolder:
         return u"no-folder"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+Fate fateOf(RenameResult result)
+{
+    switch (result) {
+    case RenameResult::Done:
+        return Fate::Renamed;
+    case RenameResult::TargetExists:
+        return Fate::Taken;
+    case RenameResult::SourceMissing:
+        return Fate::Missing;
+    case RenameResult::NotPermitted:
+        return Fate::ReadOnly;
+    case RenameResult::BadName:
+        return Fate::NotAllowed;
+    case RenameResult::TooLong:
+        return Fate::TooLong;
+    case RenameResult::Other:
+        return Fate::Unknown;
     }
     Q_UNREACHABLE();
 }

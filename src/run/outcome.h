@@ -5,6 +5,8 @@
 
 #include <QString>
 
+enum class RenameResult;
+
 /// What becomes of a row.
 enum class Fate {
     Renamed,
@@ -37,6 +39,9 @@ enum class Fate {
 
 /// By what settings, files and scripts know a fate; never changed, never translated.
 [[nodiscard]] QString idOf(Fate fate);
+
+/// What the system's answer alone says.
+[[nodiscard]] Fate fateOf(RenameResult result);
 
 struct Outcome
 {

@@ -5,31 +5,6 @@
 
 #include "run/newname.h"
 
-namespace {
-
-Fate fateOf(RenameResult result)
-{
-    switch (result) {
-    case RenameResult::Done:
-        return Fate::Renamed;
-    case RenameResult::TargetExists:
-        return Fate::Taken;
-    case RenameResult::SourceMissing:
-        return Fate::Missing;
-    case RenameResult::NotPermitted:
-        return Fate::ReadOnly;
-    case RenameResult::BadName:
-        return Fate::NotAllowed;
-    case RenameResult::TooLong:
-        return Fate::TooLong;
-    case RenameResult::Other:
-        return Fate::Unknown;
-    }
-    Q_UNREACHABLE();
-}
-
-} // namespace
-
 RenameRun::RenameRun(Disk &on)
     : disk(on)
 {

@@ -26,6 +26,7 @@ const auto boxName = u"version_check"_s;
 // The service chooses these texts: a long one would push the buttons off the screen.
 constexpr qsizetype maxReasonLength = 200;
 constexpr qsizetype maxVersionLength = 100;
+constexpr std::chrono::milliseconds busyPause(250);
 
 QByteArray requestBody()
 {
@@ -109,7 +110,6 @@ void VersionCheck::cutOff(QNetworkReply *reply)
 void VersionCheck::onFinished(QNetworkReply *reply)
 {
     reply->deleteLater();
-    deleteLater();
     if (reply->error() != QNetworkReply::NoError && !isCutOff) {
         QString reason = reply->errorString();
         const QString host = reply->request().url().host();
@@ -146,6 +146,7 @@ VersionCheck::Answer VersionCheck::readAnswer(QNetworkReply *reply)
 
 void VersionCheck::reportFailure(const QString &reason)
 {
+    deleteLater();
     if (isForced) {
         QMessageBox *box = createMessageBox(parentWidget(), QMessageBox::Warning);
         box->setWindowTitle(tr("Version check failed"));
@@ -165,15 +166,25 @@ void VersionCheck::reportSuccess(const Answer &answer)
     store->setValue(SettingKey::VersionCheckLast, QDate::currentDate().toString(dateFormat));
     qDebug("version check successful");
     const QString skipped = store->value(SettingKey::VersionCheckSkip, u"0.0.0.0"_s).toString();
+    const bool isNews =
+        answer.value(u"outdated"_s).toBool() && answer.value(u"latest"_s).toString() != skipped;
     // Deliberate: a check that the user asked for shows the skipped version too.
-    if (!isForced && answer.value(u"latest"_s).toString() == skipped)
+    if (isForced || isNews)
+        showWhenIdle(answer);
+    else
+        deleteLater();
+}
+
+void VersionCheck::showWhenIdle(const Answer &answer)
+{
+    if (!isForced && isParentBusy && isParentBusy()) {
+        QTimer::singleShot(busyPause, this, [this, answer] { showWhenIdle(answer); });
         return;
-    const bool isOutdated = answer.value(u"outdated"_s).toBool();
-    if (!isOutdated && !isForced)
-        return;
+    }
+    deleteLater();
     if (parent() && parent()->findChild<QObject *>(boxName, Qt::FindDirectChildrenOnly))
         return;
-    if (isOutdated)
+    if (answer.value(u"outdated"_s).toBool())
         showNewVersion(answer);
     else
         showUpToDate();

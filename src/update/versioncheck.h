@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include <chrono>
+#include <functional>
 
 class QMessageBox;
 class QWidget;
@@ -42,6 +43,10 @@ public:
     /// parent: the widget that message boxes belong to; may go away at any time, and this with it.
     explicit VersionCheck(QObject *parent);
 
+    /// Whether the parent is in the middle of work that a box would hold up: that of an automatic check waits
+    /// until it is not. Empty: never.
+    std::function<bool()> isParentBusy;
+
 public slots:
     /// Unless forced by the user, asks once per calendar day at most and stays silent about everything but a
     /// new version that was not skipped.
@@ -56,6 +61,7 @@ private:
     [[nodiscard]] static Answer readAnswer(QNetworkReply *reply);
     void reportFailure(const QString &reason);
     void reportSuccess(const Answer &answer);
+    void showWhenIdle(const Answer &answer);
     [[nodiscard]] QMessageBox *createBox();
     void showNewVersion(const Answer &answer);
     void showUpToDate();

@@ -114,10 +114,7 @@ class Pages(SettingsDialogCase):
 
     def test_a_language_is_taken_at_once_and_kept_by_cancel(self):
         dialog = self.open()
-        dialog.show_page(LOCALISATION)
-        tree = dialog.dialog.one("tree")
-        german, = [cell for cell in tree.children if cell.name == "de_DE"]
-        dialog.hands.click(german)
+        dialog.choose_language("de_DE")
         until(lambda: dialog.dialog.name == "Globale Einstellungen", "the German title")
         until_equal(["Allgemein", "Erweiterungen", "Sprache", "Spenden", "Info"], dialog.pages.names, "the pages")
         self.assertEqual(len(self.window.frame.all("push button", "Umbenennen")), 1)

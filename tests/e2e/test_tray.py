@@ -6,12 +6,13 @@
 import unittest
 
 from harness.case import Case
+from harness.hands import middle_of
 from harness.mainwindow import MainWindow
 from harness.program import Program
 from harness.settingsdialog import SettingsDialog
 from harness.tray import QUIT, RESTORE, Tray
-from harness.waiting import until, until_still
-from harness.xwindows import is_iconic, opacity
+from harness.waiting import until, until_equal, until_still
+from harness.xwindows import is_iconic, opacity, place
 from settingsfile import SETTLED
 
 
@@ -30,6 +31,9 @@ class TrayCase(Case):
     def expect_back(self, window):
         until(lambda: self.program.x_window("Orvanto"), "the main window to be back")
         until(lambda: window.frame.has("showing") and window.frame.has("active"), "the main window to be active")
+
+    def place(self):
+        return place(self.desktop, until(lambda: self.program.x_window("Orvanto"), "the main window"))
 
     def minimize_to_the_task_bar(self):
         number = self.program.x_window("Orvanto")
@@ -128,6 +132,112 @@ class InTheTray(TrayCase):
         self.assertEqual((self.program.stdout, self.program.stderr), ("", ""))
         settings = self.program.settings()
         self.assertEqual((settings["Log.Save"], settings.get("SupportUsHint")), ("true", "true"))
+
+    def test_quit_asks_once(self):
+        window, tray = self.start_with_tray(SupportUsHint="true", ShowTrayiconHint="false")
+        tray.minimize()
+        tray.choose(QUIT)
+        notice = self.program.window("dialog", "Advice")
+        tray.choose(QUIT)
+        until(lambda: notice.has("active"), "the notice to be active")
+        self.assertEqual([each.name for each in self.program.windows], ["Advice"], "asked a second time")
+        tray.click()
+        until(lambda: window.frame.has("showing"), "the main window to be back")
+        until(lambda: notice.has("active"), "the notice to be active")
+        self.screenshot("notice-over-the-window")
+        tray.hands.click(notice.one("push button", "Close"))
+        self.assertEqual(self.program.wait(), 0)
+
+    def test_an_open_dialog_comes_back_with_the_window(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        settings = SettingsDialog(window)
+        for comes_back in (tray.click, lambda: tray.choose(RESTORE)):
+            tray.minimize()
+            comes_back()
+            until(lambda: window.frame.has("showing"), "the main window to be back")
+            until(lambda: settings.dialog.has("active"), "the dialog to be active")
+            self.assertFalse(is_iconic(self.desktop, self.program.x_window("Global Settings")))
+            self.screenshot("dialog")
+        # The window still waits for the dialog, which comes to the front again.
+        tray.hands.click_at(*middle_of(window.preview))
+        until(lambda: settings.dialog.has("active"), "the dialog to be active")
+        self.assertFalse(window.preview.has("checked"), "the window took a click behind its dialog")
+        settings.toggle("Disable splash screen")
+        settings.press("Save")
+        settings.wait_closed()
+        self.close()
+        self.assertEqual(self.program.settings()["Misc.DisableSplashScreen"], "false")
+
+    def test_a_run_goes_on_in_the_tray(self):
+        names = [f"{number:05}.txt" for number in range(20000)]
+        folder = self.make_files(names)
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        window.add_by_drag(folder)
+        until(lambda: window.files.count == len(names), "the files")
+        window.add_rule("Insert Text", texts=["new_"], numbers=[0], choice="Start")
+        window.hands.click(window.rename_button)
+        # The window manager would bring the window back with a wait dialog that comes later.
+        until((folder / "new_01000.txt").exists, "the run to be under way")
+        tray.minimize()
+        self.assertEqual(window.report_text(), "Total 20000\nProcessed 20000\nFailed 0")
+        tray.click()
+        until(lambda: window.frame.has("showing"), "the main window to be back")
+        window.close_report()
+        self.close()
+
+    def test_quit_by_the_menu_keeps_the_place(self):
+        self.start_with_tray(ShowTrayiconHint="false", Window__Geometry__Restore="true")
+        number = until(lambda: self.program.x_window("Orvanto"), "the main window")
+        self.desktop.run("wmctrl", "-i", "-r", number, "-e", "0,150,190,1080,600")
+        until(lambda: self.place()[2:] == (1080, 600), "the new size")
+        before = until_still(self.place, "the window to rest")
+        for _ in range(3):
+            tray = Tray(self.program)
+            tray.minimize()
+            tray.choose(QUIT)
+            self.assertEqual(self.program.wait(), 0)
+            self.start_again()
+            until_equal(before, self.place, "the place of the last run")
+        # There and back again it is the same.
+        tray = Tray(self.program)
+        tray.minimize()
+        tray.click()
+        until_equal(before, self.place, "the place before the tray")
+        self.close()
+
+    def test_quit_after_a_minimized_start_keeps_the_place(self):
+        self.start_with_tray(ShowTrayiconHint="false", Window__Geometry__Restore="true")
+        self.close()
+        settings = {name: text for name, text in self.program.settings().items() if name != "@version"}
+        self.start_minimized(**{**settings, "Misc.MinimizeOnStart": "true"})
+        for run in range(2):
+            if run:
+                self.program.start()
+            Tray(self.program).choose(QUIT)
+            self.assertEqual(self.program.wait(), 0)
+            # The frame before it is not known in the tray, and not restored.
+            before, after = (each["Window.Geometry.Data"][48:] for each in (settings, self.program.settings()))
+            self.assertEqual(after, before)
+
+    def test_the_menu_follows_the_language(self):
+        window, tray = self.start_with_tray(ShowTrayiconHint="false")
+        # The icon stays when its menu brings the window back.
+        tray.minimize()
+        english = tray.menu_size()
+        tray.choose(RESTORE)
+        self.expect_back(window)
+        settings = SettingsDialog(window)
+        settings.choose_language("de_DE")
+        settings.press("Abbrechen")
+        settings.wait_closed()
+        german = tray.menu_size()
+        self.assertGreater(german, english)
+        self.close()
+        self.program.start()
+        self.program.window("frame", "Orvanto")
+        tray = Tray(self.program)
+        tray.minimize()
+        self.assertEqual(german, tray.menu_size(), "the menu of a start in German")
 
     def test_quit_by_the_menu_without_a_question(self):
         _, tray = self.start_with_tray(ShowTrayiconHint="false")

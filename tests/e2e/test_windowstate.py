@@ -11,7 +11,7 @@ from harness.desktop import Desktop
 from harness.hands import RIGHT
 from harness.program import Program
 from harness.waiting import until, until_equal, until_still
-from harness.xwindows import is_above, opacity, own_windows, wait_for_menu
+from harness.xwindows import is_above, opacity, own_windows, place, wait_for_menu
 from settingsfile import SETTLED, settings_text
 
 STAY_ON_TOP = 4
@@ -41,11 +41,7 @@ class WindowState(Case):
         return self.start_again()
 
     def place(self):
-        """Where the window stands with its frame, as the window manager says, and its size."""
-        text = self.desktop.run("xwininfo", "-id", self.number())
-        x, y, width, height = (int(re.search(rf"{name}: +(-?\d+)", text)[1]) for name in (
-            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-        return x, y, width, height
+        return place(self.desktop, self.number())
 
     def test_opacity_and_stay_on_top_survive(self):
         window = self.start()

@@ -44,8 +44,13 @@ class SettingsDialog:
     def toggle(self, text):
         self.window.toggle(self.box(text))
 
+    def choose_language(self, code):
+        self.show_page(LOCALISATION)
+        cell, = [cell for cell in self.dialog.one("tree").children if cell.name == code]
+        self.hands.click(cell)
+
     def press(self, text):
-        self.hands.click(self.dialog.one("push button", text))
+        self.hands.click(until(lambda: self.dialog.one("push button", text), text))
 
     def wait_closed(self):
         until(lambda: self.dialog not in self.program.windows, "the settings dialog to close")

@@ -56,6 +56,13 @@ class Tray:
         self.hands.click_at(*self.wait_for_icon(), RIGHT)
         return wait_for_menu(self.desktop)
 
+    def menu_size(self):
+        """Of the icon's menu, which tells its texts to nobody else."""
+        menu = self.open_menu()
+        self.hands.keys("Escape")
+        until(lambda: not is_viewable(self.desktop, menu.number), "the menu to close")
+        return menu.width, menu.height
+
     def choose(self, entry):
         """Clicks RESTORE, the upper half of the icon's menu, or QUIT, the lower one."""
         menu = self.open_menu()

@@ -47,6 +47,13 @@ def wait_for_menu(desktop):
     return menu
 
 
+def place(desktop, number):
+    """Where a window stands on the screen, without its frame, and its size."""
+    text = desktop.run("xwininfo", "-id", number)
+    return tuple(int(re.search(rf"{name}: +(-?\d+)", text)[1]) for name in (
+        "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+
+
 def opacity(desktop, number):
     """A window's opacity, 0 to 1, as a compositor reads it."""
     answer = desktop.run("xprop", "-id", number, "_NET_WM_WINDOW_OPACITY")

@@ -110,12 +110,29 @@ private slots:
     void isShownUnlessSwitchedOff() { QCOMPARE(shown, expected); }
 };
 
+/// What an end leaves behind that no closing of the window came before.
+class TestSettingsAtEnd final : public QObject
+{
+    Q_OBJECT
+
+public:
+    QByteArray text;
+
+private slots:
+    void areSaved() { QVERIFY2(text.contains("<LastWord>true</LastWord>"), text.constData()); }
+};
+
 namespace {
+
+QString settingsFile(const QTemporaryDir &home)
+{
+    return home.filePath(u"Kavrondel/Orvanto/config/global.xml"_s);
+}
 
 bool writeSettings(const QTemporaryDir &home, const QByteArray &splash)
 {
     QDir().mkpath(home.filePath(u"Kavrondel/Orvanto/config"_s));
-    QFile file(home.filePath(u"Kavrondel/Orvanto/config/global.xml"_s));
+    QFile file(settingsFile(home));
     const QByteArray text = "<Settings><Misc><IsFirstStart>false</IsFirstStart>" + splash +
                             "</Misc><Window><Opacity>0.5</Opacity></Window>"
                             "<SupportUsHint>false</SupportUsHint></Settings>";
@@ -143,8 +160,14 @@ int main(int argc, char **argv)
             result |= QTest::qExec(&atStart, argc, argv);
             TestApplication test;
             result |= QTest::qExec(&test, argc, argv);
+            SettingsStore::instance()->setValueByName(u"LastWord"_s, true);
         }
         QDir::setCurrent(before);
+        TestSettingsAtEnd atEnd;
+        QFile file(settingsFile(home));
+        if (file.open(QIODevice::ReadOnly))
+            atEnd.text = file.readAll();
+        result |= QTest::qExec(&atEnd, argc, argv);
     }
     return result;
 }

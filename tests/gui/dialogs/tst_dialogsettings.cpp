@@ -7,12 +7,9 @@
 #include "dialogs/faderwidget.h"
 #include "dialogstest.h"
 #include "platform/autostart.h"
-#include "support/httpserver.h"
-#include "update/versioncheck.h"
 
 #include <QCheckBox>
 #include <QListWidget>
-#include <QNetworkProxy>
 #include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +19,6 @@ class TestDialogSettings final : public DialogsTest
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void loadsDefaults();
     void loadsWhatIsStored();
     void eachCheckBoxHasItsSetting_data();
@@ -37,6 +33,7 @@ private slots:
     void pagesFadeIn();
     void autoStartIsSwitchedAtOnce();
     void autoStartOfAnotherPathIsOverwritten();
+    void autoStartFollowsTheEntryNotTheCheckBox();
     void autoStartComparesWithoutCase();
     void autoStartFailureIsTold();
     void dialogGoesWhileTheBoxIsOpen();
@@ -47,9 +44,6 @@ private slots:
     void infoButtons();
     void unknownInfoButtonOpensNothing();
     void donateOpensThePage();
-    void checkNowAsksTheService();
-    void checkOutlivesTheDialog();
-    void windowGoesWhilePending();
 
 private:
     static void click(QCheckBox *checkBox)
@@ -68,11 +62,6 @@ private:
         file.write("[Desktop Entry]\nType=Application\nName=x\nExec=" + command + "\n");
     }
 };
-
-void TestDialogSettings::initTestCase()
-{
-    QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-}
 
 void TestDialogSettings::loadsDefaults()
 {
@@ -312,6 +301,23 @@ void TestDialogSettings::autoStartOfAnotherPathIsOverwritten()
     QVERIFY(checkBox->isChecked());
 }
 
+void TestDialogSettings::autoStartFollowsTheEntryNotTheCheckBox()
+{
+    DialogSettings dialog(nullptr);
+    dialog.show();
+    auto *checkBox = find<QCheckBox>(dialog, "checkBoxEnableAutoStart");
+    for (const bool isEnabled : {true, false}) {
+        // Another instance may have written the entry since the box was set.
+        QVERIFY(isAutoStartEnabled() == isEnabled || setAutoStart(isEnabled));
+        checkBox->setChecked(!isEnabled);
+        const BoxAnswer box(QMessageBox::Ok);
+        click(checkBox);
+        QVERIFY(box.isDone());
+        QCOMPARE(isAutoStartEnabled(), !isEnabled);
+        QCOMPARE(checkBox->isChecked(), !isEnabled);
+    }
+}
+
 void TestDialogSettings::autoStartComparesWithoutCase()
 {
     writeEntry(autoStartCommand(QCoreApplication::applicationFilePath()).toUpper().toUtf8());
@@ -432,55 +438,6 @@ void TestDialogSettings::donateOpensThePage()
     find<QListWidget>(dialog, "listWidget")->setCurrentRow(3);
     QTest::mouseClick(find<QPushButton>(dialog, "pushButtonDonate"), Qt::LeftButton);
     QCOMPARE(opened->urls, QList<QUrl>{QUrl(Maker::donateUrl())});
-}
-
-void TestDialogSettings::checkNowAsksTheService()
-{
-    HttpServer server;
-    server.answerBody("outdated=0\n");
-    VersionCheck::service().address = server.url();
-    QWidget window;
-    DialogSettings dialog(&window);
-    dialog.show();
-    const BoxAnswer box(QMessageBox::Ok);
-    QTest::mouseClick(find<QPushButton>(dialog, "pushButtonUpdate"), Qt::LeftButton);
-    QTRY_VERIFY(box.isDone());
-    QCOMPARE(server.requests.size(), 1);
-    QCOMPARE(box.text, u"You are using the latest version."_s);
-    QCOMPARE(box.parent, &window); // not the dialog's
-}
-
-void TestDialogSettings::checkOutlivesTheDialog()
-{
-    HttpServer server;
-    QPointer<QTcpSocket> pending;
-    server.answer = [&pending](QTcpSocket *socket) {
-        pending = socket;
-    };
-    VersionCheck::service().address = server.url();
-    QWidget window;
-    auto dialog = std::make_unique<DialogSettings>(&window);
-    dialog->show();
-    QTest::mouseClick(find<QPushButton>(*dialog, "pushButtonUpdate"), Qt::LeftButton);
-    QTRY_VERIFY(pending);
-    dialog.reset();
-    const BoxAnswer box(QMessageBox::Ok);
-    pending->write("HTTP/1.1 200 OK\r\nContent-Length: 11\r\n\r\noutdated=0\n");
-    QTRY_VERIFY(box.isDone());
-    QTRY_VERIFY(!window.findChild<VersionCheck *>());
-}
-
-void TestDialogSettings::windowGoesWhilePending()
-{
-    HttpServer server;
-    VersionCheck::service().address = server.url();
-    auto window = std::make_unique<QWidget>();
-    auto *dialog = new DialogSettings(window.get());
-    dialog->show();
-    QTest::mouseClick(find<QPushButton>(*dialog, "pushButtonUpdate"), Qt::LeftButton);
-    QTRY_COMPARE(server.requests.size(), 1);
-    window.reset();
-    QTRY_COMPARE(server.disconnected, 1);
 }
 
 QTEST_MAIN(TestDialogSettings)

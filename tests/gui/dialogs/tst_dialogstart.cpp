@@ -291,6 +291,14 @@ void TestDialogStart::otherButtonsDoNotDrag()
         QCoreApplication::sendEvent(&dialog, &moved);
         QCOMPARE(dialog.pos(), before);
     }
+    // Nor do they take a drag over.
+    QTest::mousePress(&dialog, Qt::LeftButton, {}, pressed);
+    QTest::mousePress(&dialog, Qt::RightButton, {}, pressed + QPoint(3, 3));
+    QMouseEvent dragged(QEvent::MouseMove, pressed + QPoint(30, 20),
+                        dialog.mapToGlobal(pressed) + QPoint(30, 20), Qt::NoButton,
+                        Qt::LeftButton | Qt::RightButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&dialog, &dragged);
+    QCOMPARE(dialog.pos(), before + QPoint(30, 20));
 }
 
 void TestDialogStart::linkOpensThePage()

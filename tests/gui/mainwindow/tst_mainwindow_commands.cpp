@@ -9,6 +9,8 @@
 #include <QAction>
 #include <QDesktopServices>
 #include <QDockWidget>
+#include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -16,6 +18,8 @@
 #include <QSystemTrayIcon>
 #include <QTableWidget>
 #include <QTest>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include <algorithm>
 #include <optional>
@@ -47,6 +51,17 @@ private:
     QList<QUrl> opened;
 
     [[nodiscard]] QTableWidget *table() const { return window->child<QTableWidget>("tableWidgetLog"); }
+    /// What shows when the mouse rests on a line of the log.
+    [[nodiscard]] QString toolTipAt(int row, int column) const
+    {
+        QToolTip::hideText();
+        if (!QTest::qWaitFor([] { return !QToolTip::isVisible(); }))
+            return u"the last tip"_s;
+        const QPoint place = table()->visualRect(table()->model()->index(row, column)).center();
+        QHelpEvent event(QEvent::ToolTip, place, table()->viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(table()->viewport(), &event);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    }
     [[nodiscard]] static QString stored(SettingKey key)
     {
         return SettingsStore::instance()->value(key, u"(none)"_s).toString();
@@ -134,6 +149,33 @@ private slots:
         window->get()->onTimeout();
         QCOMPARE(table()->item(1, 1)->text(), u"written\n"_s);
         QCOMPARE(table()->item(0, 1)->text(), u"not written"_s);
+    }
+
+    void longLineHasItsWholeTextAsAToolTip()
+    {
+        const QString longLine = u"<b>long</b> "_s + u"/folder"_s.repeated(100);
+        AppLog::instance()->setSaveToFile(true); // ends its lines
+        AppLog::instance()->append(longLine);
+        AppLog::instance()->setSaveToFile(false);
+        AppLog::instance()->append(u"short"_s);
+        window->get()->onTimeout();
+        window->get()->show();
+        QCOMPARE(toolTipAt(0, 1), QString());
+        QCOMPARE(toolTipAt(1, 0), QString());
+        // Markup is text.
+        QCOMPARE(QTextDocumentFragment::fromHtml(toolTipAt(1, 1)).toPlainText(), longLine);
+        // Without a place for a line break, and with room for all lines.
+        AppLog::instance()->append(u"x"_s.repeated(500));
+        window->get()->onTimeout();
+        table()->setRowHeight(0, 500);
+        QVERIFY(!toolTipAt(0, 1).isEmpty());
+        table()->setRowHeight(2, 2000);
+        QCOMPARE(toolTipAt(2, 1), QString());
+        table()->removeRow(0);
+        table()->setRowHeight(1, table()->rowHeight(0));
+        table()->horizontalHeader()->setStretchLastSection(false);
+        table()->setColumnWidth(1, 2 * table()->fontMetrics().horizontalAdvance(longLine));
+        QCOMPARE(toolTipAt(1, 1), QString());
     }
 
     void clearLogRemovesAllRows()

@@ -111,6 +111,8 @@ private slots:
         compare({}, pool);
         list->addItem(makeItem(u"/a"_s));
         compare({u"/a"_s}, pool);
+        list->setPath(0, u"/b"_s);
+        compare({u"/b"_s}, pool);
     }
 
     void knownPathsFollowRowsThatMoveWithinTheModel()

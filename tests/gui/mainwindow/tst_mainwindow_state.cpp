@@ -1,13 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "desktop/messagebox.h"
 #include "support/drivenwindow.h"
+#include "support/modalanswer.h"
 
+#include <QAction>
 #include <QContextMenuEvent>
 #include <QDockWidget>
 #include <QMenu>
+#include <QScreen>
 #include <QSystemTrayIcon>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -25,8 +30,14 @@ private slots:
     void opacityOutOfRangeBecomesFullAndIsWrittenBack_data();
     void opacityOutOfRangeBecomesFullAndIsWrittenBack();
     void geometryAndLayoutAreLeftAloneWhileRestoringIsOff();
+    void layoutIsRestoredOnlyWhenAskedFor();
     void firstStartClosesTheLogDockAndTheFirstCloseEndsIt();
     void withoutATrayTheWindowIsMinimizedWhateverTheSettingSays();
+    void onlyTheWindowSystemMinimizesIntoTheTray();
+    void windowBeyondTheDesktopIsMovedBack_data();
+    void windowBeyondTheDesktopIsMovedBack();
+    void dialogsBlockTheirWindowAlone();
+    void dialogsComeToTheFrontWithTheWindow();
     void menuChecksTheEntryBelow_data();
     void menuChecksTheEntryBelow();
 
@@ -105,6 +116,24 @@ void MainWindowState::geometryAndLayoutAreLeftAloneWhileRestoringIsOff()
     QCOMPARE(store->value(SettingKey::WindowLayoutData, {}).toString(), u"stale"_s);
 }
 
+void MainWindowState::layoutIsRestoredOnlyWhenAskedFor()
+{
+    SettingsStore *store = SettingsStore::instance();
+    {
+        MainWindow window({});
+        window.initialize();
+        window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->hide();
+        store->setValue(SettingKey::WindowLayoutData, QString::fromLatin1(window.saveState(0).toHex()));
+    }
+    for (const bool restores : {false, true}) {
+        store->setValue(SettingKey::WindowLayoutRestore, restores);
+        MainWindow window({});
+        window.initialize();
+        window.restoreWindowSettings();
+        QCOMPARE(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isHidden(), restores);
+    }
+}
+
 void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
 {
     MainWindow window({});
@@ -115,6 +144,8 @@ void MainWindowState::firstStartClosesTheLogDockAndTheFirstCloseEndsIt()
     QVERIFY(window.findChild<QDockWidget *>(u"dockWidgetExplorer"_s)->isVisible());
     window.close();
     QCOMPARE(SettingsStore::instance()->value(SettingKey::MiscIsFirstStart, {}).toString(), u"false"_s);
+    // Saved at once, whatever may come between the closing and the end.
+    QVERIFY(settings->tree.content(u"config/global.xml"_s).contains("<IsFirstStart>false</IsFirstStart>"));
 }
 
 void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
@@ -128,6 +159,98 @@ void MainWindowState::withoutATrayTheWindowIsMinimizedWhateverTheSettingSays()
     QVERIFY(window.isVisible());
     QVERIFY(window.isMinimized());
     QVERIFY(!window.findChild<QSystemTrayIcon *>());
+}
+
+void MainWindowState::onlyTheWindowSystemMinimizesIntoTheTray()
+{
+    MainWindow window({});
+    window.initialize();
+    // Minimising what is hidden would show it.
+    window.setWindowState(Qt::WindowMinimized);
+    QVERIFY(window.isMinimized());
+    QVERIFY(window.isHidden());
+}
+
+void MainWindowState::windowBeyondTheDesktopIsMovedBack_data()
+{
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<bool>("stays");
+    const QSize desktop = QGuiApplication::primaryScreen()->virtualGeometry().size();
+    const int right = desktop.width() - 64;
+    const int bottom = desktop.height() - 64;
+    QTest::newRow("first corner") << QPoint(0, 0) << true;
+    QTest::newRow("last corner") << QPoint(right, bottom) << true;
+    QTest::newRow("left") << QPoint(-1, 10) << false;
+    QTest::newRow("top") << QPoint(10, -1) << false;
+    QTest::newRow("right") << QPoint(right + 1, 10) << false;
+    QTest::newRow("bottom") << QPoint(10, bottom + 1) << false;
+}
+
+void MainWindowState::windowBeyondTheDesktopIsMovedBack()
+{
+    QFETCH(QPoint, place);
+    QFETCH(bool, stays);
+    SettingsStore::instance()->setValue(SettingKey::WindowGeometryRestore, true);
+    MainWindow window({});
+    window.initialize();
+    // Qt itself moves what it restores, but data that does not restore leave the window where it is.
+    window.move(place);
+    window.restoreWindowSettings();
+    QCOMPARE(window.pos(), stays ? place : QPoint(64, 64));
+}
+
+void MainWindowState::dialogsBlockTheirWindowAlone()
+{
+    DrivenWindow window;
+    window->show();
+    QStringList blocking;
+    // A dialog that blocked all windows would block the icon in the tray, too.
+    const auto look = [&](const QDialog *dialog) {
+        if (dialog->windowModality() == Qt::WindowModal)
+            blocking.append(QString::fromLatin1(dialog->metaObject()->className()));
+    };
+    {
+        const ModalAnswer settingsDialog([&](const QDialog *dialog) {
+            look(dialog);
+            const ModalAnswer box(look);
+            QMessageBox *sibling = createMessageBox(window.get(), QMessageBox::Information);
+            execMessageBox(sibling);
+            QVERIFY(box.isDone());
+            QCOMPARE(sibling->windowHandle()->transientParent(), dialog->windowHandle());
+        });
+        window.child<QAction>("actionGlobalSettings")->trigger();
+    }
+    settings->tree.addFile(u"a.txt"_s);
+    window.drop({settings->tree.path(u"a.txt"_s)});
+    {
+        BoxAnswerer report;
+        report.beforeAnswer = look;
+        window.click("buttonRename");
+    }
+    SettingsStore::instance()->setValueByName(u"SupportUsHint"_s, true);
+    const ModalAnswer notice(look);
+    window->close();
+    QCOMPARE(blocking,
+             (QStringList{u"DialogSettings"_s, u"QMessageBox"_s, u"QMessageBox"_s, u"DialogNotice"_s}));
+    QCOMPARE(ProgressDialog(window.get()).windowModality(), Qt::WindowModal);
+}
+
+void MainWindowState::dialogsComeToTheFrontWithTheWindow()
+{
+    MainWindow window({});
+    window.initialize();
+    window.show();
+    ProgressDialog dialog(&window);
+    dialog.show();
+    dialog.showMinimized();
+    window.onRestoreWindow();
+    QVERIFY(!dialog.isMinimized());
+    QVERIFY(dialog.isVisible());
+    QTRY_VERIFY(dialog.isActiveWindow());
+    QCOMPARE(dialog.windowHandle()->transientParent(), window.windowHandle());
+    window.activateWindow();
+    QTRY_VERIFY(dialog.isActiveWindow());
+    dialog.reject();
 }
 
 void MainWindowState::menuChecksTheEntryBelow_data()

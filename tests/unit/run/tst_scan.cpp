@@ -185,6 +185,29 @@ private slots:
         QVERIFY(!QFileInfo::exists(tree->path()));
     }
 
+    void fileBeyondTheLongestPathIsListed()
+    {
+        const QString name = QString(200, u'd');
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(tree->path()));
+        QString deepest = tree->path();
+        while (!isPathTooLong(deepest + u'/' + name) && QDir().mkdir(name) && QDir::setCurrent(name))
+            deepest += u'/' + name;
+        // No call takes the whole path.
+        const QString fileName = QString(240, u'f') + u".txt"_s;
+        QFile file(fileName);
+        const bool isThere = file.open(QIODevice::WriteOnly);
+        file.close();
+        QVERIFY(QDir::setCurrent(before));
+        Scan scan(tree->path(), {u"*"_s});
+        while (scan.next() != Scan::Step::End) {
+        }
+        // Nothing is left out in silence: the run will say that it fails.
+        QCOMPARE(scan.takePaths(), isThere ? QStringList(deepest + u'/' + fileName) : QStringList());
+        std::filesystem::remove_all(tree->path().toStdU16String());
+        QVERIFY(!QFileInfo::exists(tree->path()));
+    }
+
     void longestPath()
     {
         QVERIFY(!isPathTooLong(QString(255, u'x')));

@@ -48,6 +48,9 @@ private slots:
     void connectionClosedMidWay();
     void slowServiceIsWaitedFor();
     void neverTwoBoxes();
+    void automaticWaitsWhileTheParentIsBusy();
+    void forcedWaitsForNothing();
+    void parentGoesWhileItWaits();
     void worksWithoutAParent();
 };
 
@@ -414,6 +417,53 @@ void TestVersionCheck::neverTwoBoxes()
     // The first box is gone: a further check shows one again.
     QTRY_VERIFY(!window->findChild<QObject *>(u"version_check"_s));
     QVERIFY(runAnswering(true, QMessageBox::Close)->isDone());
+}
+
+void TestVersionCheck::automaticWaitsWhileTheParentIsBusy()
+{
+    server->answerBody(newVersion);
+    bool isBusy = true;
+    int asked = 0;
+    const QPointer<VersionCheck> check = start(false);
+    check->isParentBusy = [&] {
+        ++asked;
+        return isBusy;
+    };
+    const BoxAnswer box(QMessageBox::Close);
+    QTRY_VERIFY(asked > 2);
+    QVERIFY(!box.isDone());
+    // What needs no answer is done already.
+    QCOMPARE(setting(SettingKey::VersionCheckLast).toString(), today());
+    QCOMPARE(messages(), QStringList{successful});
+    isBusy = false;
+    QTRY_VERIFY(box.isDone());
+    QCOMPARE(box.objectName, u"version_check"_s);
+    QTRY_VERIFY(check.isNull());
+}
+
+void TestVersionCheck::forcedWaitsForNothing()
+{
+    server->answerBody(newVersion);
+    const QPointer<VersionCheck> check = start(true);
+    check->isParentBusy = [] {
+        return true;
+    };
+    const BoxAnswer box(QMessageBox::Close);
+    QTRY_VERIFY(box.isDone());
+    QTRY_VERIFY(check.isNull());
+}
+
+void TestVersionCheck::parentGoesWhileItWaits()
+{
+    server->answerBody(newVersion);
+    int asked = 0;
+    const QPointer<VersionCheck> check = start(false);
+    check->isParentBusy = [&] {
+        return ++asked > 0;
+    };
+    QTRY_VERIFY(asked > 0);
+    window.reset();
+    QVERIFY(check.isNull());
 }
 
 void TestVersionCheck::worksWithoutAParent()

@@ -1,0 +1,289 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "run/journalfolder.h"
+
+#include "platform/filelock.h"
+#include "run/journalreader.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QLockFile>
+#include <QRandomGenerator>
+#include <QSysInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto namePattern = "????????T?????????Z-????????.jsonl";
+constexpr int lockPatience = 2000; // milliseconds
+
+QString timeText(const QDateTime &time)
+{
+    return time.toString(u"yyyyMMdd'T'HHmmsszzz'Z'");
+}
+
+/// The time of the name, which is later than those of the others, whatever the clock did.
+QString stampAfter(const QString &newest)
+{
+    const QString now = timeText(QDateTime::currentDateTimeUtc());
+    const QString last = newest.left(now.size());
+    if (now > last)
+        return now;
+    QDateTime time = QDateTime::fromString(last, u"yyyyMMdd'T'HHmmsszzz'Z'"_s);
+    time.setTimeSpec(Qt::UTC);
+    return time.isValid() ? timeText(time.addMSecs(1)) : now;
+}
+
+JournalInfo::State stateOf(QFile &file, const JournalSummary &summary)
+{
+    using State = JournalInfo::State;
+    if (summary.header && summary.header->version > journalVersion)
+        return State::Newer;
+    if (summary.header && summary.header->machine != thisMachine())
+        return State::OtherMachine;
+    if (summary.header && summary.figures.state == JournalFigures::State::Complete)
+        return State::Complete;
+    if (summary.header && summary.figures.state == JournalFigures::State::Cancelled)
+        return State::Cancelled;
+    if (isLocked(file))
+        return State::InHand;
+    return summary.header ? State::Interrupted : State::Unreadable;
+}
+
+/// What was taken back of what, from the figures alone.
+void countStanding(QList<JournalInfo> &newestFirst)
+{
+    QHash<QString, qint64> takenBack;
+    QSet<QString> dealtWith;
+    for (JournalInfo &journal : newestFirst) {
+        journal.standing = std::max<qint64>(journal.renamed - takenBack.value(journal.name), 0);
+        journal.isOpen = journal.state == JournalInfo::State::Interrupted && journal.standing > 0 &&
+                         !journal.isLeft && !dealtWith.contains(journal.name);
+        if (journal.isRun())
+            continue;
+        // The last rename of an interrupted undo may not have been done: then it is still to be taken back.
+        const qint64 certain = journal.standing - (journal.isLastUncertain && journal.standing > 0 ? 1 : 0);
+        takenBack[journal.takesBack] += certain + journal.kept;
+        if (journal.state == JournalInfo::State::Complete)
+            dealtWith.insert(journal.takesBack);
+    }
+}
+
+} // namespace
+
+QString thisMachine()
+{
+    static const QString machine = QString::fromLatin1(
+        QCryptographicHash::hash(QByteArray("orvanto-journal" + QSysInfo::machineUniqueId()),
+                                 QCryptographicHash::Sha256)
+            .first(8)
+            .toHex());
+    return machine;
+}
+
+JournalFolder::JournalFolder(QString folderPath)
+    : path(std::move(folderPath))
+{
+}
+
+QStringList JournalFolder::names() const
+{
+    QStringList names =
+        QDir(path).entryList({QString::fromLatin1(namePattern)}, QDir::Files | QDir::NoSymLinks);
+    std::sort(names.begin(), names.end(), std::greater<>());
+    return names;
+}
+
+JournalInfo JournalFolder::read(const QString &name) const
+{
+    JournalInfo journal;
+    journal.name = name;
+    QFile file(filePath(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return journal;
+    journal.bytes = file.size();
+    const JournalSummary summary = summaryOf(file);
+    journal.state = stateOf(file, summary);
+    if (!summary.header) {
+        journal.isEmpty = journal.state == JournalInfo::State::Unreadable && endOfLines(file) == 0;
+        return journal;
+    }
+    journal.time = summary.header->time;
+    journal.program = summary.header->program;
+    journal.takesBack = summary.header->takesBack;
+    journal.rows = summary.header->rows;
+    journal.renamed = summary.figures.renamed - summary.figures.unrecorded;
+    journal.refused = summary.figures.refused;
+    journal.unrecorded = summary.figures.unrecorded;
+    journal.kept = summary.figures.kept;
+    journal.folder = summary.folder;
+    journal.folders = summary.figures.folders;
+    journal.isLastUncertain = summary.isLastUncertain;
+    journal.isLeft = summary.isLeft;
+    journal.isEmpty = journal.state == JournalInfo::State::Interrupted && journal.renamed + journal.kept == 0;
+    return journal;
+}
+
+QList<JournalInfo> JournalFolder::list() const
+{
+    QList<JournalInfo> newestFirst;
+    for (const QString &name : names()) {
+        JournalInfo journal = read(name);
+        // An undo is younger than what it takes back.
+        if (journal.takesBack >= name)
+            journal.state = JournalInfo::State::Unreadable;
+        newestFirst.append(std::move(journal));
+    }
+    countStanding(newestFirst);
+    return newestFirst;
+}
+
+const JournalInfo *JournalFolder::undoable(const QList<JournalInfo> &newestFirst)
+{
+    for (const JournalInfo &journal : newestFirst) {
+        if (journal.isRun() && journal.canTakeBack())
+            return &journal;
+    }
+    return nullptr;
+}
+
+const JournalInfo *JournalFolder::redoable(const QList<JournalInfo> &newestFirst)
+{
+    QSet<QString> runs;
+    for (const JournalInfo &journal : newestFirst) {
+        if (journal.isRun())
+            runs.insert(journal.name);
+    }
+    for (const JournalInfo &journal : newestFirst) {
+        if (journal.isRun() && journal.renamed > 0)
+            return nullptr;
+        if (runs.contains(journal.takesBack) && journal.canTakeBack())
+            return &journal;
+    }
+    return nullptr;
+}
+
+std::unique_ptr<Journal> JournalFolder::begin(const QString &program, qint64 rows, const QString &takesBack,
+                                              QString *error)
+{
+    const JournalHeader header{.time = QDateTime::currentDateTimeUtc(),
+                               .program = program,
+                               .machine = thisMachine(),
+                               .rows = rows,
+                               .takesBack = takesBack};
+    const QDir folder(path);
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (!folder.exists())
+        QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const auto lock = locked();
+    if (!lock) {
+        *error = u"%1 cannot be locked"_s.arg(path);
+        return nullptr;
+    }
+    const QString name = stampAfter(names().value(0)) +
+                         u"-%1.jsonl"_s.arg(QRandomGenerator::system()->generate(), 8, 16, QLatin1Char('0'));
+    return Journal::create(filePath(name), header, error);
+}
+
+std::unique_ptr<QLockFile> JournalFolder::locked() const
+{
+    auto lock = std::make_unique<QLockFile>(filePath(u"lock"_s));
+    // Who is killed before it has written its name leaves a lock of nobody: its age decides then. A living
+    // owner's is not taken, however old: the system refuses.
+    lock->setStaleLockTime(lockPatience / 20);
+    return lock->tryLock(lockPatience) ? std::move(lock) : nullptr;
+}
+
+bool JournalFolder::leave(const QString &name)
+{
+    QFile file(filePath(name));
+    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
+        lockFile(file) == FileLock::HeldByAnother)
+        return false;
+    const qint64 end = endOfLines(file);
+    const QByteArray line = toJson(JournalLeft());
+    return file.resize(end) && file.seek(end) && file.write(line) == line.size() && file.flush();
+}
+
+QSet<qint64> JournalFolder::takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const
+{
+    QSet<qint64> numbers;
+    for (const JournalInfo &journal : newestFirst) {
+        if (journal.takesBack != name || journal.takesBack >= journal.name)
+            continue;
+        const QSet<qint64> redone = takenBack(journal.name, newestFirst);
+        QFile file(filePath(journal.name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        BackwardEntries entries(file);
+        while (const auto entry = entries.next()) {
+            if (!entries.isUncertain() && !redone.contains(entry->number))
+                numbers.insert(entry->takesBack);
+        }
+        numbers.unite(entries.kept());
+    }
+    return numbers;
+}
+
+namespace {
+
+/// A file by its number, where it has one that stays.
+size_t keyOf(const FileStamp &file)
+{
+    return qHashMulti(1, file.volume, file.number);
+}
+
+size_t keyOf(const QString &folder, const QString &name)
+{
+    return qHashMulti(2, folder, name);
+}
+
+} // namespace
+
+QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo> &newestFirst) const
+{
+    QSet<size_t> keys;
+    QFile file(filePath(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return keys;
+    const QSet<qint64> gone = takenBack(name, newestFirst);
+    BackwardEntries entries(file);
+    while (const auto entry = entries.next()) {
+        if (gone.contains(entry->number))
+            continue;
+        keys.insert(keyOf(entry->folder, entry->to));
+        if (entry->file.number != 0)
+            keys.insert(keyOf(entry->file));
+    }
+    return keys;
+}
+
+QString JournalFolder::touchedBy(const QString &name) const
+{
+    const QList<JournalInfo> newestFirst = list();
+    std::optional<QSet<size_t>> files;
+    for (const JournalInfo &later : newestFirst) {
+        if (later.name <= name)
+            break;
+        if (!later.isRun() || !later.canTakeBack())
+            continue;
+        if (!files)
+            files = filesOf(name, newestFirst);
+        QFile file(filePath(later.name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QSet<qint64> gone = takenBack(later.name, newestFirst);
+        BackwardEntries entries(file);
+        while (const auto entry = entries.next()) {
+            const bool stands = !gone.contains(entry->number);
+            if (stands &&
+                (files->contains(keyOf(entry->folder, entry->from)) || files->contains(keyOf(entry->file))))
+                return later.name;
+        }
+    }
+    return {};
+}

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "run/journal.h"
+
+#include <QDateTime>
+#include <QList>
+#include <QSet>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class QLockFile;
+
+/// What a list of runs shows of one journal.
+struct JournalInfo
+{
+    enum class State {
+        Complete,
+        Cancelled,
+        /// Killed, or the power went.
+        Interrupted,
+        /// Being written, by this process or another.
+        InHand,
+        /// Of another machine, where the same paths are other files.
+        OtherMachine,
+        /// Of a version of the program that knows more.
+        Newer,
+        /// No journal, or a broken one.
+        Unreadable,
+    };
+
+    /// Of the file; later ones are greater. It names the run.
+    QString name;
+    State state = State::Unreadable;
+    QDateTime time;
+    QString program;
+    /// The run that this one takes back; empty for a run that takes none back.
+    QString takesBack;
+    qint64 rows = 0;
+    /// Those in the journal.
+    qint64 renamed = 0;
+    qint64 refused = 0;
+    /// Renamed, but not in the journal: those stay when the run is taken back.
+    qint64 unrecorded = 0;
+    /// Of those renamed: not taken back. Of an interrupted run it may be one too many, never one too few.
+    qint64 standing = 0;
+    /// Where the renamed files were; the first folder, and how many there are. At least, of an interrupted
+    /// run.
+    QString folder;
+    qint64 folders = 0;
+    qint64 bytes = 0;
+    /// Whether an interrupted run was neither taken back nor left alone.
+    bool isOpen = false;
+
+    /// Whether this is a run of its own.
+    [[nodiscard]] bool isRun() const { return takesBack.isEmpty(); }
+    /// Whether the renames that stand can be taken back.
+    [[nodiscard]] bool canTakeBack() const
+    {
+        return standing > 0 &&
+               (state == State::Complete || state == State::Cancelled || state == State::Interrupted);
+    }
+    [[nodiscard]] bool isTakenBack() const { return renamed > 0 && standing == 0; }
+    [[nodiscard]] bool isPartlyTakenBack() const { return standing > 0 && standing < renamed; }
+
+    /// For JournalFolder: what a list does not show.
+    qint64 kept = 0;
+    /// Whether no rename is in it, and none will be.
+    bool isEmpty = false;
+    bool isLastUncertain = false;
+    bool isLeft = false;
+};
+
+/// The journals of a data directory. Any number of processes may use one at the same time.
+class JournalFolder final
+{
+public:
+    static constexpr int mostJournals = 50;
+    static constexpr qint64 mostBytes = 64 << 20;
+
+    /// The folder need not exist.
+    explicit JournalFolder(QString path);
+
+    /// All journals, the newest first.
+    [[nodiscard]] QList<JournalInfo> list() const;
+    /// The run that Undo takes back: the newest that still stands, at least in part. Null when there is none.
+    [[nodiscard]] static const JournalInfo *undoable(const QList<JournalInfo> &newestFirst);
+    /// The undo that Redo takes back: the newest since the last run. Null when there is none.
+    [[nodiscard]] static const JournalInfo *redoable(const QList<JournalInfo> &newestFirst);
+    /// The newest later run that renamed a file of this one's and still stands; that one has to be taken back
+    /// before. Reads all of the journals in question.
+    [[nodiscard]] QString touchedBy(const QString &name) const;
+
+    /// Starts the journal of a run, or of one that takes another back. Nothing when that cannot be; error
+    /// then says why, for a log.
+    [[nodiscard]] std::unique_ptr<Journal> begin(const QString &program, qint64 rows,
+                                                 const QString &takesBack, QString *error);
+    /// Removes what is too much, the oldest first, and what holds nothing. To be called after a run.
+    void prune();
+    /// An interrupted run is done with, without being taken back.
+    bool leave(const QString &name);
+    /// Removes a journal and those of the undos and redos that belong to it. False when one of them is in
+    /// hand.
+    bool forget(const QString &name);
+    /// Removes all that are not in hand.
+    bool forgetAll();
+
+    [[nodiscard]] QString filePath(const QString &name) const { return path + u'/' + name; }
+    /// The numbers of a journal's entries that were taken back and not redone.
+    [[nodiscard]] QSet<qint64> takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const;
+
+private:
+    /// Null when it cannot be locked: another process has it, or it cannot be written.
+    [[nodiscard]] std::unique_ptr<QLockFile> locked() const;
+    [[nodiscard]] QStringList names() const;
+    [[nodiscard]] JournalInfo read(const QString &name) const;
+    [[nodiscard]] QSet<size_t> filesOf(const QString &name, const QList<JournalInfo> &newestFirst) const;
+    bool remove(const QStringList &some);
+
+    QString path;
+};
+
+/// By what a journal knows its machine; not the machine's own number, which is no one else's business.
+[[nodiscard]] QString thisMachine();

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+
+#include <variant>
+
+/// The lines of a journal. Each is a JSON object whose members are texts and whole numbers.
+
+/// The first line: what the journal is of.
+struct JournalHeader
+{
+    /// Of what version() on the reader knows only that it is a journal.
+    qint64 version = 1;
+    /// When the run began. A file that was born later is none that the run moved.
+    QDateTime time;
+    QString program;
+    QString machine;
+    qint64 rows = 0;
+    /// The journal of the run that this one takes back; empty for a run that takes none back.
+    QString takesBack;
+};
+
+/// By what a file is known again, whatever it is called and whatever was written into it.
+struct FileStamp
+{
+    /// As Volume has it; empty when nothing is known of the file.
+    QString volume;
+    /// 0 where the file system keeps no numbers: size and time of modification stand in.
+    quint64 number = 0;
+    qint64 size = 0;
+    /// Milliseconds since 1970, UTC.
+    qint64 modified = 0;
+
+    [[nodiscard]] bool operator==(const FileStamp &) const = default;
+};
+
+/// Written before a file is renamed: from "folder/from" to "folder/to".
+struct JournalEntry
+{
+    /// Counts from 0 in each journal.
+    qint64 number = 0;
+    /// The number of the entry that this one takes back, or -1.
+    qint64 takesBack = -1;
+    QString folder;
+    QString from;
+    QString to;
+    FileStamp file;
+};
+
+/// The same, of texts that belong to others: what is written for each file is not copied before.
+struct JournalEntryView
+{
+    qint64 number = 0;
+    qint64 takesBack = -1;
+    QStringView folder;
+    QStringView from;
+    QStringView to;
+    const FileStamp &file;
+};
+
+/// The rename of this number was refused: nothing was moved.
+struct JournalRefusal
+{
+    qint64 number = 0;
+    QString reason;
+};
+
+/// The file of the entry that was to be taken back had its old name already.
+struct JournalKept
+{
+    qint64 takesBack = 0;
+};
+
+/// What came of the run by then: from time to time, and as the last line of a run that came to its end.
+struct JournalFigures
+{
+    enum class State { Running, Complete, Cancelled };
+
+    State state = State::Running;
+    qint64 renamed = 0;
+    qint64 refused = 0;
+    /// How many JournalKept there are.
+    qint64 kept = 0;
+    /// Renamed after the journal could not be written any more.
+    qint64 unrecorded = 0;
+    /// How many folders the renamed files were in.
+    qint64 folders = 0;
+};
+
+/// Behind what an interrupted run left: it is to be left alone.
+struct JournalLeft
+{
+};
+
+using JournalLine = std::variant<std::monostate, JournalHeader, JournalEntry, JournalRefusal, JournalKept,
+                                 JournalFigures, JournalLeft>;
+
+/// The newest version of the format that is understood.
+constexpr qint64 journalVersion = 1;
+
+/// With its newline.
+[[nodiscard]] QByteArray toJson(const JournalHeader &header);
+[[nodiscard]] QByteArray toJson(const JournalEntry &entry);
+[[nodiscard]] QByteArray toJson(const JournalRefusal &refusal);
+[[nodiscard]] QByteArray toJson(const JournalKept &kept);
+[[nodiscard]] QByteArray toJson(const JournalFigures &figures);
+[[nodiscard]] QByteArray toJson(const JournalLeft &left);
+
+/// As toJson(), into memory that has room for mostBytes(), with the folder as folderJson() gives it; gives
+/// the place behind the line.
+char *writeJson(const JournalEntryView &entry, QByteArrayView folder, char *memory);
+[[nodiscard]] qsizetype mostBytes(const JournalEntryView &entry);
+[[nodiscard]] QByteArray folderJson(QStringView folder);
+
+/// What a line says, without its newline; monostate for what is no line of a journal, whole or not.
+[[nodiscard]] JournalLine fromJson(QByteArrayView line);
