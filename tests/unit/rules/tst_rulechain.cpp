@@ -21,6 +21,7 @@ private slots:
     void factoriesMakeANewRuleEachTime();
     void everyKindMakesItsOwnParameters_data();
     void everyKindMakesItsOwnParameters();
+    void editorOfAnotherKindMakesNoRecord();
     void editorsBecomeThePagesOfAStack();
     void rulesApplyInOrder();
     void recordWithoutARuleEmptiesTheName();
@@ -93,6 +94,17 @@ void TestRuleChain::everyKindMakesItsOwnParameters()
     QCOMPARE(data->parameters.index(), static_cast<size_t>(key));
     QCOMPARE(ruleName(data.get()), QString::fromLatin1(QTest::currentDataTag()));
     QTEST(ruleDescription(data.get()), "description");
+}
+
+void TestRuleChain::editorOfAnotherKindMakesNoRecord()
+{
+    for (const auto &rule : rules) {
+        for (const auto &other : rules) {
+            const std::unique_ptr<QWidget> editor(other->createEditor(nullptr));
+            const std::unique_ptr<RuleData> data(rule->createData(editor.get()));
+            QCOMPARE(data != nullptr, rule == other);
+        }
+    }
 }
 
 void TestRuleChain::editorsBecomeThePagesOfAStack()

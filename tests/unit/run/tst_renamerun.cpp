@@ -25,7 +25,16 @@ public:
         calls.append(from.path + " -> "_L1 + to);
         return answer;
     }
-    std::optional<FileIdentity> identity(const QString &) const override { return FileIdentity(); }
+    /// A folder ends with a separator and a dot.
+    std::optional<FileIdentity> identity(const QString &path) const override
+    {
+        const bool isFolder = path.endsWith("/."_L1);
+        FileIdentity there;
+        there.kind = isFolder ? FileIdentity::Kind::Folder : FileIdentity::Kind::File;
+        there.volume = isFolder ? volumeOfFolders : 1;
+        return there;
+    }
+    quint64 volumeOfFolders = 1;
 };
 
 } // namespace
@@ -163,6 +172,17 @@ private slots:
             QCOMPARE(idOf(once(u"a"_s, name).fate), u"missing"_s);
         QCOMPARE(idOf(once(u"no such folder/a"_s, u"b"_s).fate), u"missing"_s);
         QCOMPARE(idOf(once(u"other/a"_s, u"b"_s).fate), u"missing"_s);
+    }
+
+    void anotherFileSystemIsTold()
+    {
+        AnsweringDisk model;
+        model.answer = RenameResult::Other;
+        RenameRun run(model);
+        const FilePath file = FilePath::of(u"/dir/a"_s);
+        QCOMPARE(idOf(run.next(file, u"sub/b"_s).reason), idOf(Fate::Unknown));
+        model.volumeOfFolders = 2;
+        QCOMPARE(idOf(run.next(file, u"sub/b"_s).reason), idOf(Fate::NotAllowed));
     }
 
     void everyAnswerOfTheDiskHasItsFate()
