@@ -46,14 +46,14 @@ class Tray:
         until(lambda: not self.program.x_window("Orvanto"), "the main window to go")
         self.wait_for_icon()
 
-    def click(self):
+    def click(self, *button):
         x, y = self.wait_for_icon()
         # Never the same place twice: two clicks soon after each other would be a double click.
         self._clicks += 1
-        self.hands.click_at(x + (7 if self._clicks % 2 else -7), y)
+        self.hands.click_at(x + (7 if self._clicks % 2 else -7), y, *button)
 
     def open_menu(self):
-        self.hands.click_at(*self.wait_for_icon(), RIGHT)
+        self.click(RIGHT)
         return wait_for_menu(self.desktop)
 
     def menu_size(self):
