@@ -43,6 +43,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +77,14 @@ void show(QWidget *window, const QString &name)
     };
     if (!QTest::qWaitFor([&isFading] { return !isFading(); }, 20000))
         fail(name + " does not end fading in"_L1);
+    // Texts, and the room that they and the scroll bars take, come one event after the other.
+    QImage last;
+    const auto isAtRest = [window, &last] {
+        const QImage before = std::exchange(last, window->grab().toImage());
+        return before == last;
+    };
+    if (!QTest::qWaitFor(isAtRest, 20000))
+        fail(name + " does not come to rest"_L1);
     save(window, name);
 }
 
