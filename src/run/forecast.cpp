@@ -106,7 +106,8 @@ Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &
     if (const auto fate = fateIn(target.traits().state, Fate::NoFolder)) {
         if (*fate == Fate::Unknown)
             source.doubt(entry, name);
-        return *fate;
+        // A file that may be gone is missing before its new folder is.
+        return entry->isSure ? *fate : Fate::Unknown;
     }
     return move({file, source, target, name, entry, QStringView(newName).sliced(seen.lastPartAt), true},
                 outcome);

@@ -6,6 +6,7 @@
 #include "support/environment.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QScrollBar>
 #include <QTest>
@@ -216,6 +217,25 @@ private slots:
         QCOMPARE(last.height(), rowHeight);
         QVERIFY(list->viewport()->rect().contains(last.center()));
         QCOMPARE(list->indexAt(last.center()).row(), 4999);
+    }
+
+    void rowsAddedWithEventsProcessedAreLaidOutTogether()
+    {
+        int layouts = 0;
+        const auto countLayout = [&layouts] {
+            ++layouts;
+        };
+        connect(list->verticalScrollBar(), &QScrollBar::rangeChanged, this, countLayout);
+        QElapsedTimer clock;
+        clock.start();
+        for (int i = 0; i < 2000; ++i) {
+            list->addItem(makeItem(u"/p/%1"_s.arg(i)));
+            QCoreApplication::processEvents();
+        }
+        // One in 40 ms at most, and each may change the range twice: the other scroll bar takes its room.
+        QVERIFY2(layouts <= 4 + 2 * clock.elapsed() / 40, qPrintable(QString::number(layouts)));
+        QTRY_VERIFY(everyRowIsLaidOut());
+        QVERIFY(layouts > 0);
     }
 
     void rowsAddedInOneGoShowByThemselves()

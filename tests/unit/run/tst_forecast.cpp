@@ -219,6 +219,18 @@ private slots:
             (QStringList{u"renamed"_s, u"unknown"_s, u"separator unknown"_s, u"unknown"_s, u"unknown"_s}));
     }
 
+    void fileThatMayBeGoneIsUnknownWhereverItIsToGo()
+    {
+        const TestFolder folder;
+        QVERIFY(QDir().mkdir(u"sub"_s));
+        QVERIFY(writeFile(u"a"_s, "a"));
+        const QList<Row> rows = {{folder.path(u"sub"_s), u"new/"_s},
+                                 {folder.path(u"a"_s), u"new"_s},
+                                 {folder.path(u"a"_s), u"nowhere/a"_s}};
+        QCOMPARE(foretold(SystemDiskView(), rows),
+                 (QStringList{u"separator unknown"_s, u"unknown"_s, u"separator unknown"_s}));
+    }
+
     void folderThatComesIsSeenBySpellingsAskedBefore()
     {
         const TestFolder folder;
