@@ -97,6 +97,26 @@ private slots:
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"new new a.txt"_s, u"new new b.txt"_s}));
     }
 
+    void everyRuleCountsInTheirOrder()
+    {
+        window->drop({tree->addFile(u"dir/a.txt"_s)});
+        window->addInsert(u"2"_s);
+        window->addInsert(u"1"_s);
+        run();
+        QCOMPARE(tree->names(u"dir"_s), QStringList{u"12a.txt"_s});
+    }
+
+    void rowsThatComeShowTheirNameOnDiskWithPreviewUp()
+    {
+        window->addInsert(u"2"_s);
+        window->addInsert(u"1"_s);
+        window->drop({tree->addFile(u"dir/a.txt"_s)});
+        QCOMPARE(window->rowTexts(), QStringList{u"a.txt"_s});
+        window->click("buttonPreview");
+        window->drop({tree->addFile(u"dir/b.txt"_s)});
+        QCOMPARE(window->rowTexts(), QStringList({u"12a.txt"_s, u"12b.txt"_s}));
+    }
+
     void reportBox()
     {
         window->drop({tree->addFile(u"dir/a.txt"_s)});
