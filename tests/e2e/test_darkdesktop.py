@@ -3,13 +3,9 @@
 # SPDX-License-Identifier: MIT
 """The program looks the same whatever colours the desktop has."""
 
-import os
-import pathlib
-import shutil
-import subprocess
 import unittest
 
-from harness.case import Case
+from harness.windowpictures import WindowPictures
 
 LIGHT, DARK = (250, 245, 240), (35, 40, 45)
 # KDE's names for its colours; Qt itself reads them.
@@ -38,34 +34,16 @@ def qt6ct(configuration, background, text):
     return {"QT_QPA_PLATFORMTHEME": "qt6ct"}
 
 
-class DarkDesktop(Case):
-    def pictures(self, theme, background, text):
+class DarkDesktop(WindowPictures):
+    def pictures_on(self, theme, background, text):
         """The pictures of all windows by their names, as they are on a desktop with these colours."""
-        settings = self.home / "data/Kavrondel/Orvanto/config/global.xml"
-        settings.parent.mkdir(parents=True)
-        settings.write_text("<Settings><Misc><IsFirstStart>false</IsFirstStart><DisableSplashScreen>true"
-                            "</DisableSplashScreen></Misc><VersionCheck><Auto>false</Auto></VersionCheck>"
-                            "</Settings>", encoding="utf-8")
         configuration = self.home / "configuration"
-        configuration.mkdir()
-        env = dict(self.desktop.env, HOME=str(self.home), XDG_DATA_HOME=str(self.home / "data"),
-                   XDG_CONFIG_HOME=str(configuration), **theme(configuration, background, text))
-        seen = self.folder / "pictures"
-        seen.mkdir()
-        run = subprocess.run([os.environ["ORVANTO_E2E_WINDOWPICTURES"], str(seen)], env=env, capture_output=True,
-                             text=True, timeout=120, check=False)
-        self.assertEqual((run.returncode, run.stdout, run.stderr), (0, "", ""))
-        kept = pathlib.Path(os.environ["ORVANTO_E2E_SCREENSHOTS"]) / f"{theme.__name__}-{background[0]}"
-        shutil.rmtree(kept, ignore_errors=True)
-        shutil.copytree(seen, kept)
-        pictures = {file.stem: file.read_bytes() for file in seen.iterdir()}
-        # The next run finds the same names, and no more.
-        for folder in (self.home, seen):
-            shutil.rmtree(folder)
-        return pictures
+        configuration.mkdir(parents=True)
+        return self.pictures(f"{theme.__name__}-{background[0]}", XDG_CONFIG_HOME=str(configuration),
+                             **theme(configuration, background, text))
 
     def expect_one_look(self, theme):
-        light, dark = self.pictures(theme, LIGHT, DARK), self.pictures(theme, DARK, LIGHT)
+        light, dark = self.pictures_on(theme, LIGHT, DARK), self.pictures_on(theme, DARK, LIGHT)
         self.assertNotEqual(light.pop("desktop"), dark.pop("desktop"), "the theme does nothing")
         self.assertGreater(len(light), 30)
         self.assertEqual(light.keys(), dark.keys())

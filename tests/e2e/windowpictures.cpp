@@ -1,15 +1,19 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 //
-// windowpictures FOLDER: starts the program as its main() does, shows one window after the other, and saves
-// their pictures in the folder, with one picture of what the desktop's own colours look like.
+// windowpictures FOLDER [forecast]: starts the program as its main() does, shows one window after the other,
+// and saves their pictures in the folder, with one picture of what the desktop's own colours look like. With
+// "forecast" only what the window says of rows that are not renamed; texts that are cut off end it with a
+// message.
 
 #include "app/application.h"
 #include "dialogs/dialognotice.h"
 #include "dialogs/dialogsettings.h"
 #include "dialogs/dialogstart.h"
+#include "mainwindow/commandids.h"
 #include "mainwindow/mainwindow.h"
 #include "mainwindow/progressdialog.h"
+#include "rules/rulereplace.h"
 #include "support/httpserver.h"
 #include "support/temptree.h"
 #include "support/toplevel.h"
@@ -36,6 +40,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -43,6 +48,8 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -51,9 +58,11 @@ namespace {
 
 QString folder;
 
-void fail(const QString &what)
+/// Not by Qt's messages, which go to the program's log.
+[[noreturn]] void fail(const QString &what)
 {
-    qFatal("%s", qPrintable(what));
+    std::fputs(qPrintable(what + u'\n'), stderr);
+    std::_Exit(1);
 }
 
 void save(QWidget *widget, const QString &name)
@@ -97,8 +106,16 @@ Widget *child(const QWidget *window, const char *name)
     return found;
 }
 
+void expectWholeText(const QWidget *widget)
+{
+    const QRect inWindow(widget->mapTo(widget->window(), QPoint(0, 0)), widget->size());
+    if (widget->width() < widget->sizeHint().width() || !widget->window()->rect().contains(inWindow))
+        fail(u"cut off: "_s + widget->property("text").toString());
+}
+
 /// Calls open, waits for what it opens, saves its picture and closes it.
-void showOpened(const QString &name, const std::function<void()> &open, QWidget *(*opened)())
+void showOpened(const QString &name, const std::function<void()> &open, QWidget *(*opened)(),
+                const std::function<void(QWidget *)> &look = {})
 {
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
@@ -107,6 +124,8 @@ void showOpened(const QString &name, const std::function<void()> &open, QWidget 
             return;
         timer.stop();
         save(window, name);
+        if (look)
+            look(window);
         window->close();
     });
     timer.start(5);
@@ -120,12 +139,34 @@ void showMenu(const QString &name, const std::function<void()> &open)
     showOpened(name, open, &QApplication::activePopupWidget);
 }
 
-void showBox(const QString &name, const std::function<void()> &open)
+void showBox(const QString &name, const std::function<void()> &open,
+             const std::function<void(QWidget *)> &look = {})
 {
-    showOpened(name, open, [] {
-        QWidget *box = QApplication::activeWindow();
-        return qobject_cast<QMessageBox *>(box) ? box : nullptr;
+    const auto opened = []() -> QWidget * {
+        return qobject_cast<QMessageBox *>(QApplication::activeWindow());
+    };
+    showOpened(name, open, opened, look);
+}
+
+void showDetails(const QMessageBox *box)
+{
+    const auto buttons = box->findChildren<QPushButton *>();
+    std::for_each(buttons.begin(), buttons.end(), &expectWholeText);
+    const auto details = std::find_if(buttons.begin(), buttons.end(), [box](QPushButton *button) {
+        return box->buttonRole(button) == QMessageBox::ActionRole;
     });
+    if (details == buttons.end())
+        fail(u"no details: "_s + box->text());
+    const auto opened = []() -> QWidget * {
+        QWidget *dialog = QApplication::activeWindow();
+        return dialog && dialog->objectName() == "dialogFailures"_L1 ? dialog : nullptr;
+    };
+    showOpened(
+        u"details"_s, [details] { (*details)->click(); }, opened,
+        [](QWidget *dialog) {
+            const auto inside = dialog->findChildren<QPushButton *>();
+            std::for_each(inside.begin(), inside.end(), &expectWholeText);
+        });
 }
 
 /// Widgets of every sort, those too that the program does not have: what Qt's own dialogs show, and what the
@@ -179,6 +220,49 @@ void tidyLog(MainWindow *window)
     log->insertRow(0);
     log->setItem(0, 0, new QTableWidgetItem(u"12:00:00"_s));
     log->setItem(0, 1, new QTableWidgetItem(u"A line of the log"_s));
+}
+
+/// What the window says of rows that are not renamed: one after another, one by a file, one that keeps its
+/// name.
+void showForecast(MainWindow *window)
+{
+    // The details show the folder's path, which must be the same each time.
+    const QDir photos(QDir::homePath() + "/photos"_L1);
+    const auto add = [&photos](const QString &name) {
+        if (!photos.mkpath(u"."_s) || !writeFile(photos.filePath(name), {}))
+            fail(u"no file to rename"_s);
+    };
+    for (const QString &name : {u"IMG_1 a.txt"_s, u"IMG_2 a.txt"_s, u"IMG_3 b.txt"_s, u"c.txt"_s})
+        add(name);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(photos.path())});
+    window->onFileListAdded(&data);
+    add(u"b.txt"_s);
+    auto *kinds = child<QComboBox>(window, "comboBoxRules");
+    const int kind = kinds->currentIndex();
+    auto *editor = window->findChild<RuleWidgetReplace *>();
+    kinds->setCurrentIndex(
+        kinds->findData(child<QStackedWidget>(window, "stackedWidgetRules")->indexOf(editor)));
+    editor->lineEditReplaceWhat->setText(u"IMG_. "_s);
+    editor->toolButtonRegExp->setChecked(true);
+    window->on_buttonAddRule_clicked();
+    auto *preview = child<QPushButton>(window, "buttonPreview");
+    preview->click();
+    const auto *label = child<QLabel>(window, "labelForecast");
+    if (!QTest::qWaitFor([label] { return label->text().contains(u'4'); }, 20000))
+        fail(u"the preview tells nothing"_s);
+    tidyLog(window);
+    show(window, u"preview"_s);
+    expectWholeText(label);
+    showBox(
+        u"report-with-details"_s, [window] { window->on_buttonRename_clicked(); },
+        [](QWidget *box) { showDetails(qobject_cast<QMessageBox *>(box)); });
+    preview->setChecked(false);
+    child<QAbstractButton>(window, "buttonFileListClear")->click();
+    window->onClickedRuleList(ClearRules);
+    editor->lineEditReplaceWhat->clear();
+    editor->toolButtonRegExp->setChecked(false);
+    kinds->setCurrentIndex(kind);
 }
 
 void showMainWindow(MainWindow *window)
@@ -302,7 +386,8 @@ void showToolTip(QWidget *window)
 
 int main(int argc, char **argv)
 {
-    if (argc != 2)
+    const bool onlyForecast = argc == 3 && QLatin1StringView(argv[2]) == "forecast"_L1;
+    if (argc != 2 && !onlyForecast)
         return 2;
     folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
     Application application(argc, argv);
@@ -312,6 +397,11 @@ int main(int argc, char **argv)
     application.init();
     const TempTree files;
     MainWindow *window = topLevel<MainWindow>();
+    showForecast(window);
+    if (onlyForecast) {
+        window->closeQuietly();
+        return 0;
+    }
     fillMainWindow(window, files);
     showMainWindow(window);
     showDialogs(window);

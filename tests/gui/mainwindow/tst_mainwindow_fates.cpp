@@ -156,6 +156,23 @@ private slots:
         QCOMPARE(data(0, Qt::AccessibleDescriptionRole), sentence);
     }
 
+    // What only some file systems and folders say.
+    void refusalsHaveTheirSentences()
+    {
+        const auto before = [](Fate fate) {
+            return futureSentence({fate, fate, -1, {}}, FilePath::of(u"/dir/a"_s), u"b"_s);
+        };
+        QCOMPARE(before(Fate::NotAllowed), u"Stays: the file system does not take the new name."_s);
+        QCOMPARE(before(Fate::ReadOnly), u"Stays: nothing can be renamed in this folder."_s);
+        QCOMPARE(before(Fate::Unknown), u"Cannot be told before the run."_s);
+        const auto after = [](Fate fate) {
+            return pastSentence({fate, fate, -1, {}});
+        };
+        QCOMPARE(after(Fate::NotAllowed), u"Not renamed: the file system does not take the new name."_s);
+        QCOMPARE(after(Fate::ReadOnly), u"Not renamed: nothing can be renamed in this folder."_s);
+        QCOMPARE(after(Fate::Unknown), u"Not renamed: the system refused."_s);
+    }
+
     void missingFileIsTold()
     {
         const QString path = tree->addFile(u"dir/a"_s);
