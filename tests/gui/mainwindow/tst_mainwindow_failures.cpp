@@ -187,6 +187,30 @@ private slots:
                           folder + u"y\ty"_s + folder);
     }
 
+    void selectedRowsAreCopiedInTheirOrder()
+    {
+        const Failures failures = {{0, FilePath::of(u"/d/a"_s), {Fate::Taken, Fate::Taken, -1, u"/d/x"_s}},
+                                   {1, FilePath::of(u"/d/b"_s), {Fate::Taken, Fate::Taken, -1, u"/d/y"_s}}};
+        const FailureModel model(failures, nullptr);
+        const QModelIndex group = model.index(0, 0);
+        QCOMPARE(model.asText({model.index(1, 0, group), group, model.index(0, 0, group)}),
+                 u"2: the name is taken\na\tx\t/d\nb\ty\t/d\n"_s);
+    }
+
+    void enterClosesTheReportWhateverWasClicked()
+    {
+        BoxAnswerer boxes;
+        bool isDefault = true;
+        boxes.beforeAnswer = [&](QMessageBox *box) {
+            auto *details = qobject_cast<QPushButton *>(detailsButton(box));
+            details->setFocus();
+            QTRY_VERIFY(details->hasFocus());
+            isDefault = details->isDefault();
+        };
+        runWithTrouble();
+        QVERIFY(!isDefault);
+    }
+
     void oddNamesStayOnTheirLine()
     {
         const Failures failures = {

@@ -1,15 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/fatemark.h"
-#include "mainwindow/fatetexts.h"
 #include "mainwindow/fileitem.h"
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
+#include "support/faketranslator.h"
 #include "support/modalanswer.h"
 
 #include <QLabel>
-#include <QPainter>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTest>
@@ -19,23 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto checking = u"checking…"_s;
-
-/// Its bare shape.
-QImage shapeOf(FateMark mark)
-{
-    QImage image(64, 64, QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    paintMark(&painter, {2, 2, 60, 60}, mark);
-    painter.end();
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor color = image.pixelColor(x, y);
-            image.setPixelColor(x, y, color.alpha() > 127 && color.green() > 200 ? Qt::white : Qt::black);
-        }
-    }
-    return image;
-}
 
 } // namespace
 
@@ -156,21 +137,26 @@ private slots:
         QCOMPARE(data(0, Qt::AccessibleDescriptionRole), sentence);
     }
 
-    // What only some file systems and folders say.
-    void refusalsHaveTheirSentences()
+    void nameTakenInAnotherFolderIsToldWithoutIt()
     {
-        const auto before = [](Fate fate) {
-            return futureSentence({fate, fate, -1, {}}, FilePath::of(u"/dir/a"_s), u"b"_s);
-        };
-        QCOMPARE(before(Fate::NotAllowed), u"Stays: the file system does not take the new name."_s);
-        QCOMPARE(before(Fate::ReadOnly), u"Stays: nothing can be renamed in this folder."_s);
-        QCOMPARE(before(Fate::Unknown), u"Cannot be told before the run."_s);
-        const auto after = [](Fate fate) {
-            return pastSentence({fate, fate, -1, {}});
-        };
-        QCOMPARE(after(Fate::NotAllowed), u"Not renamed: the file system does not take the new name."_s);
-        QCOMPARE(after(Fate::ReadOnly), u"Not renamed: nothing can be renamed in this folder."_s);
-        QCOMPARE(after(Fate::Unknown), u"Not renamed: the system refused."_s);
+        tree->addFolder(u"dir/sub"_s);
+        window->drop({tree->addFile(u"dir/a1"_s), tree->addFile(u"dir/a2"_s)});
+        window->addReplace(u"^a\\d$"_s, u"sub/a"_s, true);
+        preview();
+        QCOMPARE(data(1, Qt::AccessibleDescriptionRole),
+                 u"Stays: row 1 takes the name a. The new name leads to the folder %1."_s.arg(
+                     tree->path(u"dir/sub"_s)));
+    }
+
+    void fullPathsAreForetoldAsNamesAre()
+    {
+        makeTrouble();
+        preview();
+        const QStringList told = fates();
+        window->click("checkBoxShowFullPath");
+        waitUntilTold();
+        QCOMPARE(window->rowTexts().constFirst(), tree->path(u"dir/first"_s));
+        QCOMPARE(fates(), told);
     }
 
     void missingFileIsTold()
@@ -209,14 +195,23 @@ private slots:
         QCOMPARE(label()->text(), u"5 files: 1 will be renamed, 1 keeps its name, 3 cannot"_s);
     }
 
-    void labelCounts()
+    void labelFollowsTheLanguage()
     {
-        QCOMPARE(countsText(128, {120, 3, 5, 0}),
-                 u"128 files: 120 will be renamed, 3 keep their names, 5 cannot"_s);
-        QCOMPARE(countsText(128, {119, 3, 5, 1}),
-                 u"128 files: 119 will be renamed, 3 keep their names, 5 cannot, 1 unknown"_s);
-        QCOMPARE(countsText(1, {0, 1, 0, 0}), u"1 file: 0 will be renamed, 1 keeps its name, 0 cannot"_s);
-        QCOMPARE(selectionText(128, 4), u"128 files, 4 selected"_s);
+        const FakeTranslator translator([](QLatin1StringView context, const QString &text) {
+            return context == "Fates"_L1 && text == u"%1, %2 selected"_s ? u"%1, davon %2"_s : QString();
+        });
+        QTRY_COMPARE(label()->text(), u"0 files, davon 0"_s);
+    }
+
+    void labelOffersAWayToTroubleWhereThereIsSome()
+    {
+        window->drop({tree->addFile(u"dir/a1"_s), tree->addFile(u"dir/a2"_s)});
+        preview();
+        QCOMPARE(label()->toolTip(), QString());
+        QCOMPARE(label()->cursor().shape(), Qt::ArrowCursor);
+        window->addReplace(u"\\d"_s, {}, true);
+        QTRY_COMPARE(label()->toolTip(), u"Go to the next row in trouble (F8)"_s);
+        QCOMPARE(label()->cursor().shape(), Qt::PointingHandCursor);
     }
 
     void labelStandsAtTheStatusBarsRightEnd()
@@ -274,8 +269,10 @@ private slots:
         note();
         QTest::mouseClick(label(), Qt::LeftButton);
         note();
+        QTest::mouseClick(label(), Qt::RightButton);
+        note();
         // The row that keeps its name is no trouble.
-        QCOMPARE(rows, QList<int>({1, 2, 3, 1, 3, 1}));
+        QCOMPARE(rows, QList<int>({1, 2, 3, 1, 3, 1, 1}));
     }
 
     void f8WithoutTroubleGoesNowhere()
@@ -369,15 +366,6 @@ private slots:
         }
     }
 
-    void marksDifferInShape()
-    {
-        const QList<FateMark> marks = {FateMark::Keeps, FateMark::Moves, FateMark::Unknown, FateMark::Stays};
-        for (int i = 0; i < marks.size(); ++i) {
-            for (int j = 0; j < i; ++j)
-                QVERIFY(shapeOf(marks.at(i)) != shapeOf(marks.at(j)));
-        }
-    }
-
     void nameOnDiskIsPaintedWhereThereIsRoom()
     {
         window->drop({tree->addFile(u"dir/old name"_s)});
@@ -443,7 +431,7 @@ private slots:
     {
         window->drop(tree->addFiles(u"dir/%1"_s, 300));
         window->addInsert(u"x"_s);
-        window->click("buttonPreview");
+        preview();
         bool told = false;
         {
             const DuringEvents watch(

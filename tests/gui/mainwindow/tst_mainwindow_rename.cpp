@@ -8,6 +8,7 @@
 
 #include "withoutprivileges.h"
 
+#include <QElapsedTimer>
 #include <QMap>
 #include <QProgressBar>
 #include <QTest>
@@ -25,6 +26,28 @@ QString inGerman(QLatin1StringView context, const QString &text)
                                                  {u"File renaming started"_s, u"Los"_s}};
     return context == "MainWindow"_L1 ? texts.value(text) : QString();
 }
+
+/// Counts how often a widget is painted.
+class PaintCounter final : public QObject
+{
+public:
+    void count(QObject *widget)
+    {
+        widget->removeEventFilter(this);
+        widget->installEventFilter(this);
+    }
+    [[nodiscard]] int counted() const { return paintings; }
+
+protected:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        paintings += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+private:
+    int paintings = 0;
+};
 
 } // namespace
 
@@ -359,6 +382,28 @@ private slots:
             run();
         }
         QCOMPARE(bars, QList<int>({0, 12, 25, 37, 50, 62, 75, 87}));
+    }
+
+    void barIsNotPaintedForEachFile()
+    {
+        window->drop(tree->addFiles(u"dir/%1"_s, 400));
+        window->addInsert(u"x"_s);
+        PaintCounter paintings;
+        QElapsedTimer clock;
+        {
+            const DuringEvents watch([&](int) {
+                if (const ProgressDialog *dialog = window->waitDialog(); dialog && dialog->isVisible()) {
+                    paintings.count(dialog->progressBar);
+                    if (!clock.isValid())
+                        clock.start();
+                }
+            });
+            run();
+        }
+        // One in 40 ms at most, beside those that the window system asks for at the beginning.
+        QVERIFY(paintings.counted() > 0);
+        QVERIFY2(paintings.counted() <= 4 + clock.elapsed() / 40,
+                 qPrintable(QString::number(paintings.counted())));
     }
 
     void previewIsUpAfterTheRunAndTheListShowsTheNamesOnDisk()

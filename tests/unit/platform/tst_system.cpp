@@ -3,6 +3,7 @@
 
 #include "platform/osversion.h"
 #include "platform/userdatafolder.h"
+#include "platform/volume.h"
 #include "support/temptree.h"
 
 #include <QSysInfo>
@@ -45,6 +46,7 @@ private slots:
     void userDataFolderIsWhereTheUserSays();
     void userDataFolderIsInTheHomeFolderOtherwise();
     void osVersionNamesTheKernel();
+    void numbersOfAnUnknownFileSystemAreMadeUp();
 };
 
 void TestSystem::userDataFolderIsWhereTheUserSays()
@@ -82,6 +84,13 @@ void TestSystem::osVersionNamesTheKernel()
     const QString version = osVersionText();
     QCOMPARE(version.section(u' ', 0, 0).toLower(), QSysInfo::kernelType());
     QCOMPARE(version.section(u' ', 1), QSysInfo::kernelVersion());
+}
+
+void TestSystem::numbersOfAnUnknownFileSystemAreMadeUp()
+{
+    const Volume volume = volumeOf(u"/proc"_s);
+    QVERIFY(!volume.id.isEmpty());
+    QVERIFY(!volume.keepsNumbers);
 }
 
 QTEST_GUILESS_MAIN(TestSystem)

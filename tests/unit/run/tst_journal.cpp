@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QThreadPool>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -42,6 +44,19 @@ public:
 
 private:
     JournalledTree &tree;
+};
+
+/// At every path stands the same.
+class OneFileDisk final : public Disk
+{
+public:
+    FileIdentity file;
+
+    RenameResult rename(const FilePath & /*from*/, const QString & /*to*/) override
+    {
+        return RenameResult::Other;
+    }
+    std::optional<FileIdentity> identity(const QString & /*path*/) const override { return file; }
 };
 
 QList<JournalLine> linesOf(const QByteArray &bytes)
@@ -260,6 +275,38 @@ private slots:
             QCOMPARE(stamp.number, files->disk.identity(path)->number);
         }
         QCOMPARE(stamps.of(FilePath::of(files->tree.path(u"none"_s))), FileStamp());
+    }
+
+    void stampsOfTheNextFolderAreItsOwn()
+    {
+        FileStamps stamps(files->disk);
+        QStringList paths = files->tree.addFiles(u"one/f%1"_s, 40);
+        for (const QString &path : std::as_const(paths))
+            (void)stamps.of(FilePath::of(path));
+        // The same names, the last of them first.
+        paths = files->tree.addFiles(u"two/f%1"_s, 40);
+        std::reverse(paths.begin(), paths.end());
+        for (const QString &path : std::as_const(paths))
+            QCOMPARE(stamps.of(FilePath::of(path)).number, files->disk.identity(path)->number);
+    }
+
+    void stampsTellOtherFiles()
+    {
+        const QString path = files->tree.addFile(u"f"_s);
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        OneFileDisk disk;
+        disk.file = {.number = 7, .born = now.toMSecsSinceEpoch() * 1'000'000, .size = 5, .modified = 0};
+        FileStamps stamps(disk);
+        const QString volume = volumeOf(path).id;
+        QVERIFY(stamps.isAt(path, {.volume = volume, .number = 7}, now));
+        QVERIFY(!stamps.isAt(path, {.volume = volume, .number = 8}, now));
+        // The number was given again when the file was gone.
+        QVERIFY(!stamps.isAt(path, {.volume = volume, .number = 7}, now.addMSecs(-1)));
+        QVERIFY(!stamps.isAt(path, {.volume = volume + u'0', .number = 7}, now));
+        // Without numbers size and time tell, as coarse as they are kept.
+        QVERIFY(stamps.isAt(path, {.volume = volume, .size = 5, .modified = 2000}, now));
+        QVERIFY(!stamps.isAt(path, {.volume = volume, .size = 5, .modified = 2001}, now));
+        QVERIFY(!stamps.isAt(path, {.volume = volume, .size = 6, .modified = 0}, now));
     }
 
     /// The listing told who had a name before the run; afterwards others have it.

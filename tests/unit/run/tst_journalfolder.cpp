@@ -69,17 +69,19 @@ private slots:
         files->tree.addFile(u"sub/a"_s);
         files->tree.addFile(u"b"_s);
         files->tree.addFile(u"c"_s);
+        files->tree.addFile(u"sub/d"_s);
         const QString first = oneRun();
-        const QString second = files->run({{u"sub/a"_s, u"a2"_s}, {u"b"_s, u"b2"_s}, {u"c"_s, u"b2"_s}});
+        const QString second =
+            files->run({{u"sub/a"_s, u"a2"_s}, {u"b"_s, u"b2"_s}, {u"c"_s, u"b2"_s}, {u"sub/d"_s, u"d2"_s}});
         QCOMPARE(listed(), (QStringList{second, first}));
         const JournalInfo info = files->info(second);
         QCOMPARE(info.state, JournalInfo::State::Complete);
         QVERIFY(info.time >= before.addMSecs(-1) && info.time <= QDateTime::currentDateTimeUtc());
         QCOMPARE(info.program, u"1.2.3"_s);
-        QCOMPARE(info.rows, 3);
-        QCOMPARE(info.renamed, 2);
+        QCOMPARE(info.rows, 4);
+        QCOMPARE(info.renamed, 3);
         QCOMPARE(info.refused, 1);
-        QCOMPARE(info.standing, 2);
+        QCOMPARE(info.standing, 3);
         QCOMPARE(info.folder, files->tree.path(u"sub"_s));
         QCOMPARE(info.folders, 2);
         QVERIFY(info.isRun());

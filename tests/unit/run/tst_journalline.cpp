@@ -62,6 +62,7 @@ private slots:
     void linesComeBack();
     void whatIsNoLineIsNone_data();
     void whatIsNoLineIsNone();
+    void linesOfOthersAreReadAsJsonIs();
     void brokenLinesAreNone();
     void randomTextIsReadAsQtReadsIt();
 };
@@ -215,10 +216,12 @@ void TestJournalLine::whatIsNoLineIsNone_data()
         R"({"kind":"run","format":"other","version":1,"time":"2026-08-01T13:57:41.123Z","rows":3})",
         R"({"kind":"run","format":"orvanto-journal","version":0,"time":"2026-08-01T13:57:41.123Z","rows":3})",
         R"({"kind":"run","format":"orvanto-journal","version":1,"time":"yesterday","rows":3})",
+        R"({"kind":"run","format":"orvanto-journal","version":1,"time":"2026-08-01T13:57:41.123","rows":3})",
         R"({"kind":"run","format":"orvanto-journal","version":1,"time":"2026-08-01T13:57:41.123Z","rows":-3})",
         R"({"kind":"undo","format":"orvanto-journal","version":1,"time":"2026-08-01T13:57:41.123Z","rows":3})",
         R"({"kind":"end","state":"odd","renamed":1,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
         R"({"kind":"end","state":"complete","renamed":-1,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
+        R"({"kind":"end","state":"complete","renamed":1099511627777,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
         R"({"kind":"refused"})",
         R"({"kind":"kept","of":-1})",
         R"({"a":1,"b":1,"c":1,"d":1,"e":1,"f":1,"g":1,"h":1,"i":1,"j":1,"k":1,"l":1,"m":1,"n":1,"o":1,"kind":"left","q":1})",
@@ -231,6 +234,13 @@ void TestJournalLine::whatIsNoLineIsNone()
 {
     QFETCH(const QByteArray, line);
     QVERIFY(std::holds_alternative<std::monostate>(fromJson(line)));
+}
+
+/// What our own lines never hold: two members of one name, and a mark that stands for itself.
+void TestJournalLine::linesOfOthersAreReadAsJsonIs()
+{
+    QCOMPARE(JsonObject::parse(R"({"a":"1","a":"2"})")->text("a"), u"2"_s);
+    QCOMPARE(JsonObject::parse("{\"a\":\"\xef\xbb\xbf-\"}")->text("a"), u"\uFEFF-"_s);
 }
 
 void TestJournalLine::brokenLinesAreNone()

@@ -190,6 +190,21 @@ private slots:
         QCOMPARE(names(), (QStringList{u"f000"_s, u"f001"_s, u"f002"_s}));
     }
 
+    void laterRunCountsAsFarAsItStands()
+    {
+        files->tree.addFiles(u"f%1"_s, 2);
+        const QString first = files->run({{u"f000"_s, u"a"_s}});
+        const QString second = files->run({{u"f001"_s, u"b"_s}, {u"a"_s, u"x"_s}});
+        {
+            const auto begun = UndoRun::begin(files->journals, second, files->disk, {});
+            QCOMPARE(begun.run->next()->to, files->tree.path(u"a"_s));
+            begun.run->end(true);
+        }
+        QVERIFY(files->info(second).isPartlyTakenBack());
+        QCOMPARE(files->undo(first), QStringList{u"renamed"_s});
+        QCOMPARE(names(), (QStringList{u"b"_s, u"f000"_s}));
+    }
+
     void cancelledUndoGoesOnLater()
     {
         files->tree.addFiles(u"f%1"_s, 3);
