@@ -47,7 +47,7 @@ ProgressDialog::ProgressDialog(QWidget *parent)
     buttonCancel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(buttonCancel, &QPushButton::clicked, this, &QDialog::reject);
 
-    // File names stand in the text page's label.
+    // Whatever text it is given, markup in it is text.
     labelText->setTextFormat(Qt::PlainText);
     stackedWidget->addWidget(createPage(progressBar));
     stackedWidget->addWidget(createPage(labelText));

@@ -27,13 +27,13 @@ QString entryPath()
     return autoStartFolder() + "/Pendulix Basic.desktop"_L1;
 }
 
-/// The general escapes of a desktop entry's string values.
+/// The general escapes of a desktop entry's string values, for texts that begin with no blank.
 QString escapedValue(QString text)
 {
-    text.replace(u'\\', "\\\\"_L1).replace(u'\n', "\\n"_L1).replace(u'\t', "\\t"_L1).replace(u'\r', "\\r"_L1);
-    if (text.startsWith(u' '))
-        text.replace(0, 1, u"\\s"_s);
-    return text;
+    return text.replace(u'\\', "\\\\"_L1)
+        .replace(u'\n', "\\n"_L1)
+        .replace(u'\t', "\\t"_L1)
+        .replace(u'\r', "\\r"_L1);
 }
 
 /// The value of a key of the group "Desktop Entry" as it stands in the file, escapes and all.
