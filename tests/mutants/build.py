@@ -82,13 +82,14 @@ class Build:
         return set(re.findall(r"lib/liborvanto_\w+\.so", self._link_commands[target])) - {target}
 
     def _read_dependencies(self):
-        """The objects that include a file, by the file; as the compiler said."""
+        """The objects of what was made that include a file, by the file; as the compiler said."""
+        linked = {word for command in self._link_commands.values() for word in shlex.split(command)}
         found, current = {}, ""
         for line in _output("ninja", "-t", "deps").splitlines():
             if not line.startswith(" "):
                 current = line.partition(":")[0]
             # What moc makes of a header names it by its path, so it keeps the functions of the faultless header.
-            elif current in self._compilations and not current.endswith("mocs_compilation.cpp.o"):
+            elif current in linked and not current.endswith("mocs_compilation.cpp.o"):
                 found.setdefault((BUILD / line.strip()).resolve(), []).append(current)
         return found
 
