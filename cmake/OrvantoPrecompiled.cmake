@@ -22,7 +22,7 @@ function(orvanto_add_precompiled name)
     file(CONFIGURE OUTPUT ${name}.cpp CONTENT "")
     add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
     target_link_libraries(${name} PRIVATE orvanto_options)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF)
     target_precompile_headers(${name} PRIVATE ${ARGN})
 endfunction()
 
@@ -40,17 +40,6 @@ endif()
 function(orvanto_precompiled target)
     if(ORVANTO_PRECOMPILE)
         target_precompile_headers(${target} REUSE_FROM orvanto_precompiled)
-    endif()
-endfunction()
-
-# orvanto_empty_moc(target): for targets whose classes with slots stand in their .cpp files. What Qt makes of
-# their headers is empty then, and compiles faster without the precompiled ones. A target that lists headers is left
-# as it is.
-function(orvanto_empty_moc target)
-    get_target_property(sources ${target} SOURCES)
-    if(NOT sources MATCHES "\\.h(;|$)")
-        set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp"
-            PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     endif()
 endfunction()
 
