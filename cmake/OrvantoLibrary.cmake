@@ -24,4 +24,5 @@ function(orvanto_library folder)
         AUTOUIC ON
         AUTOUIC_SEARCH_PATHS "${PROJECT_SOURCE_DIR}/forms")
     orvanto_precompiled(orvanto_${folder})
+    orvanto_joined(orvanto_${folder})
 endfunction()

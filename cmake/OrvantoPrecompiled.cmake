@@ -43,6 +43,14 @@ function(orvanto_precompiled target)
     endif()
 endfunction()
 
+# orvanto_joined(target): compiles several of its files as one, as what they all instantiate of Qt's templates is half
+# of the work.
+function(orvanto_joined target)
+    if(ORVANTO_PRECOMPILE)
+        set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+    endif()
+endfunction()
+
 # orvanto_links_widgets(variable target): whether it links Qt's widgets, itself or by what it links.
 function(orvanto_links_widgets variable target)
     get_target_property(libraries ${target} LINK_LIBRARIES)

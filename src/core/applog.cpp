@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Q_GLOBAL_STATIC(QMutex, accessMutex)
+Q_GLOBAL_STATIC(QMutex, logMutex)
 AppLog *theLog = nullptr;
 
 QString timeStamp()
@@ -54,7 +54,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &me
 
 AppLog *AppLog::instance()
 {
-    const QMutexLocker locker(accessMutex());
+    const QMutexLocker locker(logMutex());
     if (!theLog)
         theLog = new AppLog;
     return theLog;
@@ -62,7 +62,7 @@ AppLog *AppLog::instance()
 
 void AppLog::destroy()
 {
-    const QMutexLocker locker(accessMutex());
+    const QMutexLocker locker(logMutex());
     if (theLog) {
         theLog->close();
         delete theLog;

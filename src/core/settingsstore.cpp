@@ -23,7 +23,7 @@ namespace {
 constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 constexpr int indent = 2;
 
-Q_GLOBAL_STATIC(QMutex, accessMutex)
+Q_GLOBAL_STATIC(QMutex, settingsMutex)
 SettingsStore *theStore = nullptr;
 
 void ensureConfigFolder()
@@ -51,7 +51,7 @@ QDomElement siblingWithId(QDomElement element, const QString &id)
 
 SettingsStore *SettingsStore::instance()
 {
-    const QMutexLocker locker(accessMutex());
+    const QMutexLocker locker(settingsMutex());
     if (!theStore)
         theStore = new SettingsStore;
     return theStore;
@@ -59,7 +59,7 @@ SettingsStore *SettingsStore::instance()
 
 void SettingsStore::destroy()
 {
-    const QMutexLocker locker(accessMutex());
+    const QMutexLocker locker(settingsMutex());
     delete theStore;
     theStore = nullptr;
 }

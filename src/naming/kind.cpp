@@ -18,7 +18,7 @@ struct Names
 };
 
 // In the order of Kind.
-constexpr std::array<Names, allKinds.size()> names{{
+constexpr std::array<Names, allKinds.size()> kindNames{{
     {"replace"_L1, QT_TRANSLATE_NOOP("Rules", "Replace")},
     {"trim"_L1, QT_TRANSLATE_NOOP("Rules", "Trim")},
     {"case"_L1, QT_TRANSLATE_NOOP("Rules", "Change Case")},
@@ -28,7 +28,7 @@ constexpr std::array<Names, allKinds.size()> names{{
 
 const Names &namesOf(Kind kind)
 {
-    return names.at(static_cast<size_t>(kind));
+    return kindNames.at(static_cast<size_t>(kind));
 }
 
 } // namespace
@@ -47,10 +47,10 @@ QString kindId(Kind kind)
 std::optional<Kind> kindFromId(QStringView id)
 {
     const auto *found =
-        std::find_if(names.begin(), names.end(), [id](const Names &one) { return one.id == id; });
-    if (found == names.end())
+        std::find_if(kindNames.begin(), kindNames.end(), [id](const Names &one) { return one.id == id; });
+    if (found == kindNames.end())
         return std::nullopt;
-    return allKinds.at(static_cast<size_t>(found - names.begin()));
+    return allKinds.at(static_cast<size_t>(found - kindNames.begin()));
 }
 
 QString kindName(Kind kind)
