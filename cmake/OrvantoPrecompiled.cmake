@@ -44,9 +44,9 @@ function(orvanto_precompiled target)
 endfunction()
 
 # orvanto_joined(target): compiles several of its files as one, as what they all instantiate of Qt's templates is half
-# of the work.
+# of the work. Not for a mutation run, whose rooms are shared libraries: a fault is to cost one file alone.
 function(orvanto_joined target)
-    if(ORVANTO_PRECOMPILE)
+    if(ORVANTO_PRECOMPILE AND NOT BUILD_SHARED_LIBS)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
     endif()
 endfunction()
