@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Ein Rückgängigmachen wurde unterbrochen; der Rest kann noch zurückgenommen werden</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>Der Lauf von %1 wurde unterbrochen; was er umbenannt hat, kann zurückgenommen werden</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Dieser Lauf kann nicht rückgängig gemacht werden</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Die letzten Umbenennungen dieses Laufs können nicht rückgängig gemacht werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Se interrumpió una acción de deshacer; lo que quedó todavía se puede restaurar</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>La ejecución de %1 se interrumpió; los nombres que cambió se pueden restaurar</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Esta ejecución no se puede deshacer</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Los últimos cambios de nombre de esta ejecución no se pueden deshacer: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Une annulation a été interrompue ; le reste peut encore être rétabli</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>L’exécution de %1 a été interrompue ; les noms qu’elle a changés peuvent être rétablis</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Cette exécution ne pourra pas être annulée</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Les derniers changements de nom de cette exécution ne pourront pas être annulés : %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Un annullamento è stato interrotto; il resto può ancora essere ripristinato</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>L’esecuzione di %1 è stata interrotta; i nomi che ha cambiato possono essere ripristinati</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Questa esecuzione non può essere annullata</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Le ultime rinominazioni di questa esecuzione non possono essere annullate: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

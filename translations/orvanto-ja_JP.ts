@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>元に戻す操作が中断されました。残りはまだ元に戻せます</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>%1 の実行は中断されました。変更された名前は元に戻せます</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>この実行は元に戻せません</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>この実行の最後の名前変更は元に戻せません：%1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

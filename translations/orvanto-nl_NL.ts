@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Ongedaan maken is onderbroken; de rest kan nog worden teruggedraaid</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>De uitvoering van %1 is onderbroken; wat is hernoemd, kan worden teruggedraaid</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Deze uitvoering kan niet ongedaan worden gemaakt</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>De laatste hernoemingen van deze uitvoering kunnen niet ongedaan worden gemaakt: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Cofanie zostało przerwane; resztę nadal można przywrócić</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>Przebieg z %1 został przerwany; zmienione nazwy można przywrócić</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Tego przebiegu nie można cofnąć</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Ostatnich zmian nazw z tego przebiegu nie można cofnąć: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

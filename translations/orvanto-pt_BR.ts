@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Uma ação de desfazer foi interrompida; o restante ainda pode ser restaurado</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>A execução de %1 foi interrompida; os nomes que ela alterou podem ser restaurados</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Esta execução não pode ser desfeita</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>As últimas renomeações desta execução não podem ser desfeitas: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Отмена была прервана; оставшееся ещё можно вернуть</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>Запуск %1 был прерван; изменённые имена можно вернуть</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Этот запуск нельзя отменить</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Последние переименования этого запуска нельзя отменить: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Bir geri alma işlemi kesildi; kalanlar hâlâ geri alınabilir</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>%1 çalıştırması kesildi; değiştirdiği adlar geri alınabilir</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Bu çalıştırma geri alınamaz</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Bu çalıştırmanın son yeniden adlandırmaları geri alınamaz: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

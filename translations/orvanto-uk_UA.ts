@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>Скасування було перервано; решту ще можна повернути</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>Запуск %1 було перервано; змінені імена можна повернути</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>Цей запуск не можна скасувати</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>Останні перейменування цього запуску не можна скасувати: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

@@ -800,6 +800,25 @@
     </message>
 </context>
 <context>
+    <name>Runs</name>
+    <message>
+        <source>An undo was interrupted; what it left can still be taken back</source>
+        <translation>一次撤销被中断；其余部分仍可恢复</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; what it renamed can be taken back</source>
+        <translation>%1 的运行被中断；已重命名的文件可以恢复原名</translation>
+    </message>
+    <message>
+        <source>This run cannot be undone</source>
+        <translation>此次运行无法撤销</translation>
+    </message>
+    <message>
+        <source>The last renames of this run cannot be undone: %1</source>
+        <translation>此次运行的最后几次重命名无法撤销：%1</translation>
+    </message>
+</context>
+<context>
     <name>TrayIcon</name>
     <message>
         <source>&amp;Restore</source>

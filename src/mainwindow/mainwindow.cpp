@@ -18,6 +18,7 @@
 #include "mainwindow/forecastlabel.h"
 #include "mainwindow/logdelegate.h"
 #include "mainwindow/progressdialog.h"
+#include "mainwindow/runhistory.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(Qt::WindowFlags flags)
     ui->setupUi(this);
     fates = std::make_unique<Fates>(*ui->listWidgetFiles, *ui->buttonPreview);
     ui->statusbar->addPermanentWidget(new ForecastLabel(*fates, *ui->listWidgetFiles));
+    runHistory = new RunHistory(this);
 }
 
 MainWindow::~MainWindow()

@@ -22,6 +22,8 @@ class QSignalMapper;
 class QTreeView;
 class RenameRun;
 class Rule;
+class RunHistory;
+class RunProgress;
 class TaskbarList;
 struct RuleData;
 
@@ -116,13 +118,14 @@ private:
     void moveFile(int from, int to);
 
     [[nodiscard]] QString newName(const QString &name, int row) const;
-    [[nodiscard]] Failures renameAll(RenameRun &run, ProgressDialog &dialog);
+    /// False when it was cancelled.
+    [[nodiscard]] bool renameAll(RenameRun &run, RunProgress &progress, Failures &failures);
     void renameRow(RenameRun &run, int row, Failures &failures);
-    void showReport(const RenameRun &run, const Failures &failures);
 
     std::unique_ptr<Ui::MainWindow> ui;
     FilePaths filePaths;
     std::unique_ptr<Fates> fates;
+    RunHistory *runHistory = nullptr;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned

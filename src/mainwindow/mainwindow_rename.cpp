@@ -4,17 +4,14 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
-#include "desktop/messagebox.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/fates.h"
-#include "mainwindow/progressdialog.h"
+#include "mainwindow/recordedrun.h"
+#include "mainwindow/runhistory.h"
+#include "mainwindow/runprogress.h"
 #include "rules/rulechain.h"
 #include "run/renamerun.h"
-#include "run/systemdisk.h"
 #include "ui_mainwindow.h"
-
-#include <QMessageBox>
-#include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -54,38 +51,32 @@ void MainWindow::on_buttonRename_clicked()
     if (ui->listWidgetFiles->count() < 1)
         return;
     AppLog::instance()->append(tr("File renaming started"));
-    ProgressDialog dialog(this);
-    dialog.setWindowTitle(tr("Please wait"));
-    dialog.mode = ProgressDialog::progressMode;
-    dialog.stackedWidget->setCurrentIndex(ProgressDialog::ProgressPage);
-    dialog.setProgress(0);
-    dialog.total = ui->listWidgetFiles->count();
-    dialog.show();
+    RunProgress progress(this, ui->listWidgetFiles->count());
     ui->buttonPreview->setChecked(false);
-    SystemDisk disk;
-    RenameRun run(disk);
-    const Failures failures = renameAll(run, dialog);
-    dialog.close();
+    RecordedRun recorded(runHistory->journals(), ui->listWidgetFiles->count());
+    RenameRun run(recorded.disk());
+    Failures failures;
+    const bool isComplete = renameAll(run, progress, failures);
+    recorded.end(!isComplete);
+    progress.close();
     on_buttonPreview_clicked();
     fates->showFailures(failures);
-    showReport(run, failures);
+    runHistory->pruneAndRefresh();
+    showReport(this, {ui->listWidgetFiles->count(), run.processed(), run.failed()}, failures);
 }
 
-Failures MainWindow::renameAll(RenameRun &run, ProgressDialog &dialog)
+bool MainWindow::renameAll(RenameRun &run, RunProgress &progress, Failures &failures)
 {
-    Failures failures;
     const SelectionKept selection(*explorer, *ui->listWidgetFiles);
     while (run.handled() < ui->listWidgetFiles->count()) {
         const int row = run.handled();
         renameRow(run, row, failures);
-        dialog.setProgress(row);
-        if (dialog.isHidden()) {
+        if (!progress.goOn(row)) {
             run.cancel();
-            break;
+            return false;
         }
-        QCoreApplication::processEvents();
     }
-    return failures;
+    return true;
 }
 
 void MainWindow::renameRow(RenameRun &run, int row, Failures &failures)
@@ -100,21 +91,4 @@ void MainWindow::renameRow(RenameRun &run, int row, Failures &failures)
     AppLog::instance()->append(tr("Could not rename file") + u" '%1'"_s.arg(name));
     qDebug("not renamed: %s", qPrintable(idOf(outcome.reason)));
     failures.append({row, file, outcome});
-}
-
-void MainWindow::showReport(const RenameRun &run, const Failures &failures)
-{
-    const QString report = tr("Total") + u' ' + QString::number(ui->listWidgetFiles->count()) + u'\n' +
-                           tr("Processed") + u' ' + QString::number(run.processed()) + u'\n' + tr("Failed") +
-                           u' ' + QString::number(run.failed());
-    QMessageBox box(this);
-    box.setWindowTitle(tr("Report"));
-    box.setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
-    box.setIcon(QMessageBox::Information);
-    box.setStyleSheet(u"QLabel{color:#444;font: bold 10pt}"_s);
-    box.setText(report);
-    AppLog::instance()->append(QString(report).replace(u'\n', u' '));
-    addCloseButton(&box, tr("Close"));
-    addDetailsButton(&box, failures);
-    box.exec();
 }
