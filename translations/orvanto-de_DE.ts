@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>eine andere Datei hat ihren Namen</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Letzten Lauf rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Rückgängig, Wiederherstellen und frühere Läufe</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Die letzten Umbenennungen dieses Laufs können nicht rückgängig gemacht werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 Ordner</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>1 Umbenennung von %1 in %2 zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>%1 Umbenennungen von %2 in %3 zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Ein anderes Fenster des Programms arbeitet gerade an diesem Lauf.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Dieser Lauf stammt von einem anderen Rechner oder von einer neueren Programmversion.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Ein späterer Lauf hat einige dieser Dateien umbenannt. Nehmen Sie zuerst diesen zurück.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Von diesem Lauf ist nichts mehr zurückzunehmen.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Zurücknehmen gestartet</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Datei &apos;%1&apos; konnte nicht zurückgenommen werden: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>%1 Umbenennungen von %2 in %3 Ordnern zurücknehmen</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>otro archivo tiene su nombre</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Deshacer la última ejecución</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Deshacer, rehacer y ejecuciones anteriores</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Los últimos cambios de nombre de esta ejecución no se pueden deshacer: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 carpetas</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Restaurar 1 nombre cambiado a las %1 en %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Restaurar %1 nombres cambiados a las %2 en %3</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Otra ventana del programa está trabajando con esta ejecución.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Esta ejecución es de otro equipo o de una versión más reciente del programa.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Una ejecución posterior cambió el nombre de algunos de estos archivos. Deshaga primero esa ejecución.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>De esta ejecución ya no queda nada por restaurar.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Restauración iniciada</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>No se pudo restaurar el archivo &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Restaurar %1 nombres cambiados a las %2 en %3 carpetas</translation>
     </message>
 </context>
 <context>

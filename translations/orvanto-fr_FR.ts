@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>un autre fichier porte son nom</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Annuler la dernière exécution</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Annuler, rétablir et exécutions précédentes</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Les derniers changements de nom de cette exécution ne pourront pas être annulés : %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 dossiers</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Rétablir 1 nom changé à %1 dans %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Rétablir %1 noms changés à %2 dans %3</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Une autre fenêtre du programme s’occupe déjà de cette exécution.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Cette exécution vient d’un autre ordinateur ou d’une version plus récente du programme.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Une exécution ultérieure a renommé certains de ces fichiers. Annulez d’abord celle-ci.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Il ne reste rien à rétablir de cette exécution.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Rétablissement des noms commencé</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Impossible de rétablir le fichier &apos;%1&apos; : %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Rétablir %1 noms changés à %2 dans %3 dossiers</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>un altro file ha il suo nome</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Annulla l’ultima esecuzione</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Annulla, ripeti ed esecuzioni precedenti</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Le ultime rinominazioni di questa esecuzione non possono essere annullate: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 cartelle</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Ripristina 1 nome cambiato alle %1 in %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Ripristina %1 nomi cambiati alle %2 in %3</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Un’altra finestra del programma sta lavorando su questa esecuzione.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Questa esecuzione proviene da un altro computer o da una versione più recente del programma.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Un’esecuzione successiva ha rinominato alcuni di questi file. Annullare prima quella.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Di questa esecuzione non resta nulla da ripristinare.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Ripristino avviato</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Impossibile ripristinare il file &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Ripristina %1 nomi cambiati alle %2 in %3 cartelle</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>別のファイルがその名前を使っています</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>下へ移動</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>最後の実行を元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>元に戻す、やり直し、以前の実行</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>この実行の最後の名前変更は元に戻せません：%1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 個のフォルダー</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>%1 に %2 で行った 1 件の名前変更を元に戻す</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>%2 に %3 で行った %1 件の名前変更を元に戻す</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>プログラムの別のウィンドウがこの実行を処理中です。</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>この実行は別のコンピューターまたは新しいバージョンのプログラムのものです。</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>後の実行でこれらのファイルの一部の名前が変更されています。先にその実行を元に戻してください。</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>この実行には元に戻すものが残っていません。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>元に戻す処理を開始しました</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>ファイル &apos;%1&apos; を元に戻せませんでした：%2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>%2 に %3 個のフォルダーで行った %1 件の名前変更を元に戻す</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>een ander bestand heeft die naam</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Laatste uitvoering ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Ongedaan maken, opnieuw en eerdere uitvoeringen</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>De laatste hernoemingen van deze uitvoering kunnen niet ongedaan worden gemaakt: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 mappen</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>1 hernoeming van %1 in %2 terugdraaien</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>%1 hernoemingen van %2 in %3 terugdraaien</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Een ander venster van het programma is met deze uitvoering bezig.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Deze uitvoering komt van een andere computer of van een nieuwere versie van het programma.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Een latere uitvoering heeft enkele van deze bestanden hernoemd. Draai die eerst terug.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Van deze uitvoering valt niets meer terug te draaien.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Ongedaan maken</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Terugdraaien gestart</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Kon bestand &apos;%1&apos; niet terugdraaien: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>%1 hernoemingen van %2 in %3 mappen terugdraaien</translation>
     </message>
 </context>
 <context>

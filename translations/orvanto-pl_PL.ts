@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Zamknij</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>inny plik ma jego nazwę</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Przenieś w dół</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Cofnij ostatni przebieg</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Cofnij, ponów i wcześniejsze przebiegi</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Ostatnich zmian nazw z tego przebiegu nie można cofnąć: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>Foldery: %1</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Przywróć 1 nazwę zmienioną o %1, folder %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Przywróć zmienione nazwy (%1) z %2, folder %3</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Inne okno programu pracuje teraz nad tym przebiegiem.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Ten przebieg pochodzi z innego komputera albo z nowszej wersji programu.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Późniejszy przebieg zmienił nazwy niektórych z tych plików. Najpierw cofnij tamten.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Z tego przebiegu nie ma już nic do przywrócenia.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Rozpoczęto przywracanie nazw</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Nie można przywrócić pliku &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Przywróć zmienione nazwy (%1) z %2, foldery: %3</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>outro arquivo tem o nome dele</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Mover para baixo</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Desfazer a última execução</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Desfazer, refazer e execuções anteriores</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>As últimas renomeações desta execução não podem ser desfeitas: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 pastas</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Restaurar 1 nome alterado às %1 em %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Restaurar %1 nomes alterados às %2 em %3</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Outra janela do programa está trabalhando com esta execução.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Esta execução é de outro computador ou de uma versão mais recente do programa.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Uma execução posterior renomeou alguns destes arquivos. Desfaça primeiro aquela.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Não resta nada desta execução para restaurar.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Restauração iniciada</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Não foi possível restaurar o arquivo &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Restaurar %1 nomes alterados às %2 em %3 pastas</translation>
     </message>
 </context>
 <context>

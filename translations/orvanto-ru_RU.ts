@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>его имя носит другой файл</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Переместить вниз</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Отменить последний запуск</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Отмена, повтор и прежние запуски</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Последние переименования этого запуска нельзя отменить: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>Папок: %1</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Вернуть 1 прежнее имя (запуск %1, папка %2)</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Вернуть прежние имена: %1 (запуск %2, папка %3)</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>С этим запуском сейчас работает другое окно программы.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Этот запуск сделан на другом компьютере или более новой версией программы.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Более поздний запуск переименовал некоторые из этих файлов. Сначала отмените его.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>В этом запуске больше нечего возвращать.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Возврат имён начат</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Не удалось вернуть имя файлу &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Вернуть прежние имена: %1 (запуск %2, папок: %3)</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Kapat</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>adı başka bir dosyada</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Aşağı taşı</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Son çalıştırmayı geri al</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Geri al, yinele ve önceki çalıştırmalar</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Bu çalıştırmanın son yeniden adlandırmaları geri alınamaz: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 klasör</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>%1 çalıştırmasında %2 içinde yapılan 1 yeniden adlandırmayı geri al</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>%2 çalıştırmasında %3 içinde yapılan %1 yeniden adlandırmayı geri al</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Programın başka bir penceresi bu çalıştırmayla uğraşıyor.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Bu çalıştırma başka bir bilgisayardan ya da programın daha yeni bir sürümünden.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Daha sonraki bir çalıştırma bu dosyalardan bazılarını yeniden adlandırdı. Önce onu geri alın.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>Bu çalıştırmadan geri alınacak bir şey kalmadı.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Yinele</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Geri alma başladı</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>&apos;%1&apos; dosyası geri alınamadı: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>%2 çalıştırmasında %3 klasörde yapılan %1 yeniden adlandırmayı geri al</translation>
     </message>
 </context>
 <context>

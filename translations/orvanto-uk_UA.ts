@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>Закрити</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>його ім’я має інший файл</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>Перемістити вниз</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>Скасувати останній запуск</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>Скасування, повторення та попередні запуски</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>Останні перейменування цього запуску не можна скасувати: %1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>Тек: %1</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>Повернути 1 попереднє ім’я (запуск %1, тека %2)</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>Повернути попередні імена: %1 (запуск %2, тека %3)</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>Із цим запуском зараз працює інше вікно програми.</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>Цей запуск зроблено на іншому комп’ютері або новішою версією програми.</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>Пізніший запуск перейменував деякі з цих файлів. Спочатку скасуйте його.</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>У цьому запуску більше нічого повертати.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Повторити</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>Повернення імен розпочато</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>Не вдалося повернути ім’я файлу &apos;%1&apos;: %2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>Повернути попередні імена: %1 (запуск %2, тек: %3)</translation>
     </message>
 </context>
 <context>

@@ -335,6 +335,10 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>another file has its name</source>
+        <translation>另一个文件占用了它的名称</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -497,6 +501,14 @@
     <message>
         <source>Move down</source>
         <translation>下移</translation>
+    </message>
+    <message>
+        <source>Undo the last run</source>
+        <translation>撤销上一次运行</translation>
+    </message>
+    <message>
+        <source>Undo, redo and earlier runs</source>
+        <translation>撤销、重做和以前的运行</translation>
     </message>
 </context>
 <context>
@@ -816,6 +828,58 @@
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
         <translation>此次运行的最后几次重命名无法撤销：%1</translation>
+    </message>
+    <message>
+        <source>%1 folders</source>
+        <translation>%1 个文件夹</translation>
+    </message>
+    <message>
+        <source>Take back 1 rename of %1 in %2</source>
+        <translation>恢复 %1 在 %2 中的 1 次重命名</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3</source>
+        <translation>恢复 %2 在 %3 中的 %1 次重命名</translation>
+    </message>
+    <message>
+        <source>Another window of the program is at this run.</source>
+        <translation>程序的另一个窗口正在处理此次运行。</translation>
+    </message>
+    <message>
+        <source>This run is of another machine, or of a newer version of the program.</source>
+        <translation>此次运行来自另一台计算机或更新版本的程序。</translation>
+    </message>
+    <message>
+        <source>A later run renamed some of these files. Take that one back first.</source>
+        <translation>之后的运行重命名了其中一些文件。请先撤销那一次。</translation>
+    </message>
+    <message>
+        <source>Nothing of this run is left to be taken back.</source>
+        <translation>此次运行已没有可恢复的内容。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Taking back started</source>
+        <translation>已开始恢复</translation>
+    </message>
+    <message>
+        <source>Could not take back file &apos;%1&apos;: %2</source>
+        <translation>无法恢复文件 &apos;%1&apos;：%2</translation>
+    </message>
+    <message>
+        <source>Take back %1 renames of %2 in %3 folders</source>
+        <translation>恢复 %2 在 %3 个文件夹中的 %1 次重命名</translation>
     </message>
 </context>
 <context>

@@ -18,7 +18,8 @@ struct Fates
     Q_DECLARE_TR_FUNCTIONS(Fates)
 };
 
-/// Behind "Stays: ", "Not renamed: " or a number.
+} // namespace
+
 QString reasonText(Fate reason)
 {
     switch (reason) {
@@ -38,10 +39,14 @@ QString reasonText(Fate reason)
         return Fates::tr("the new name holds half a character");
     case Fate::Unknown:
         return Fates::tr("the system refused");
+    case Fate::OtherFile:
+        return Fates::tr("another file has its name");
     default:
         return Fates::tr("the name is taken");
     }
 }
+
+namespace {
 
 /// Why a row will stay.
 QString futureReason(const Outcome &outcome, const QString &lastPart)

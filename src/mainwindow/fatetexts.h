@@ -30,6 +30,8 @@ struct FateCounts
 [[nodiscard]] QString selectionText(int files, int selected);
 [[nodiscard]] QString countsText(int files, const FateCounts &counts);
 
+/// Why a file stays, behind a colon.
+[[nodiscard]] QString reasonText(Fate reason);
 /// What will become of a row; empty where it is renamed as its rules say. The outcome's path is not asked.
 [[nodiscard]] QString futureSentence(const Outcome &outcome, const FilePath &file, const QString &newName);
 /// Why a row was not renamed.

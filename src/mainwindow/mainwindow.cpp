@@ -19,6 +19,8 @@
 #include "mainwindow/logdelegate.h"
 #include "mainwindow/progressdialog.h"
 #include "mainwindow/runhistory.h"
+#include "mainwindow/takingback.h"
+#include "mainwindow/undobuttons.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "rules/ruledata.h"
@@ -71,6 +73,7 @@ MainWindow::~MainWindow()
 void MainWindow::initialize()
 {
     createExplorer();
+    createUndo();
     connect(ui->listWidgetFiles, &ListWidgetFiles::contentChanged, this, &MainWindow::onFileListAdded);
     addDockWidget(Qt::RightDockWidgetArea, dockExplorer);
     createRules();
@@ -114,6 +117,15 @@ void MainWindow::createExplorer()
     auto *model = new ExplorerModel(this);
     treeExplorer->setModel(model);
     explorer = new Explorer(treeExplorer, model);
+}
+
+void MainWindow::createUndo()
+{
+    const WindowParts parts{*ui->listWidgetFiles, *ui->buttonPreview, *explorer, *fates, [this] {
+                                on_buttonPreview_clicked();
+                            }};
+    takingBack = std::make_unique<TakingBack>(parts, *runHistory);
+    new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack);
 }
 
 void MainWindow::createRules()

@@ -24,6 +24,7 @@ class RenameRun;
 class Rule;
 class RunHistory;
 class RunProgress;
+class TakingBack;
 class TaskbarList;
 struct RuleData;
 
@@ -87,6 +88,7 @@ protected:
 
 private:
     void createExplorer();
+    void createUndo();
     void createRules();
     void createMappers();
     void createLogo();
@@ -126,6 +128,7 @@ private:
     FilePaths filePaths;
     std::unique_ptr<Fates> fates;
     RunHistory *runHistory = nullptr;
+    std::unique_ptr<TakingBack> takingBack;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned

@@ -38,6 +38,8 @@ QString idOf(Fate fate)
         return u"unknown"_s;
     case Fate::NoFolder:
         return u"no-folder"_s;
+    case Fate::OtherFile:
+        return u"other-file"_s;
     }
     Q_UNREACHABLE();
 }

@@ -35,6 +35,8 @@ enum class Fate {
     Unknown,
     /// There is no such folder. Only as the reason of a Separator.
     NoFolder,
+    /// Another file than the one that is meant has its name. Only when a run is taken back.
+    OtherFile,
 };
 
 /// By what settings, files and scripts know a fate; never changed, never translated.

@@ -19,11 +19,29 @@ QString idOf(UndoStep::Result result)
     case UndoStep::Result::Missing:
         return idOf(Fate::Missing);
     case UndoStep::Result::OtherFile:
-        return u"other-file"_s;
+        return idOf(Fate::OtherFile);
     case UndoStep::Result::Taken:
         return idOf(Fate::Taken);
     case UndoStep::Result::Refused:
         return u"refused"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+Fate fateOf(const UndoStep &step)
+{
+    switch (step.result) {
+    case UndoStep::Result::TakenBack:
+    case UndoStep::Result::WasBack:
+        return Fate::Renamed;
+    case UndoStep::Result::Missing:
+        return Fate::Missing;
+    case UndoStep::Result::OtherFile:
+        return Fate::OtherFile;
+    case UndoStep::Result::Taken:
+        return Fate::Taken;
+    case UndoStep::Result::Refused:
+        return step.why;
     }
     Q_UNREACHABLE();
 }
@@ -107,6 +125,7 @@ UndoStep UndoRun::takeBack(const JournalEntry &entry)
     UndoStep step;
     step.from = entry.folder + u'/' + entry.to;
     step.to = entry.folder + u'/' + entry.from;
+    step.nameAt = entry.folder.size() + 1;
     if (stamps.isAt(step.from, entry.file, time)) {
         step.result = move(entry, step);
     } else if (stamps.isAt(step.to, entry.file, time)) {
@@ -127,7 +146,7 @@ UndoStep::Result UndoRun::move(const JournalEntry &entry, UndoStep &step)
                            .from = entry.to,
                            .to = entry.from,
                            .file = entry.file});
-    const FilePath source{.path = step.from, .nameAt = entry.folder.size() + 1};
+    const FilePath source{.path = step.from, .nameAt = step.nameAt};
     const RenameResult result = disk.rename(source, step.to);
     if (result == RenameResult::Done)
         return UndoStep::Result::TakenBack;

@@ -37,6 +37,8 @@ struct UndoStep
     /// The path before, and the path that the file had before the run.
     QString from;
     QString to;
+    /// Where the names begin in both.
+    qsizetype nameAt = 0;
 
     /// Whether nothing is left to do for this file.
     [[nodiscard]] bool isDone() const { return result == Result::TakenBack || result == Result::WasBack; }
@@ -44,6 +46,8 @@ struct UndoStep
 
 /// By what files and scripts know a result; never changed, never translated.
 [[nodiscard]] QString idOf(UndoStep::Result result);
+/// The same as a run says it; Renamed where nothing is left to do.
+[[nodiscard]] Fate fateOf(const UndoStep &step);
 
 /// Takes a run back, or an undo: the journal's renames from the last to the first, a step at a time, as
 /// RenameRun does rows. It never replaces a file and moves none but those of the run. What stays can be tried

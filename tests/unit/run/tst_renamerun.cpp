@@ -72,7 +72,8 @@ private slots:
                                                      {Fate::ReadOnly, u"read-only"_s},
                                                      {Fate::NoText, u"no-text"_s},
                                                      {Fate::Unknown, u"unknown"_s},
-                                                     {Fate::NoFolder, u"no-folder"_s}};
+                                                     {Fate::NoFolder, u"no-folder"_s},
+                                                     {Fate::OtherFile, u"other-file"_s}};
         for (const auto &[fate, id] : ids)
             QCOMPARE(idOf(fate), id);
     }

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/takingback.h"
+
+#include "core/applog.h"
+#include "desktop/messagebox.h"
+#include "dialogs/runtexts.h"
+#include "mainwindow/explorer.h"
+#include "mainwindow/fates.h"
+#include "mainwindow/fatetexts.h"
+#include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/recordedrun.h"
+#include "mainwindow/runhistory.h"
+#include "mainwindow/runprogress.h"
+#include "run/systemdisk.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDir>
+#include <QMultiHash>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// The rows of the list by the paths of their files.
+class RowsOfFiles final
+{
+public:
+    explicit RowsOfFiles(ListWidgetFiles &listOfFiles)
+        : list(listOfFiles)
+    {
+        rows.reserve(list.count());
+        for (int row = 0; row < list.count(); ++row)
+            rows.insert(keyOf(list.path(row)), row);
+    }
+
+    /// -1 where no row shows the file.
+    [[nodiscard]] int rowOf(const QString &path) const { return rows.value(keyOf(path), -1); }
+
+    void follow(const UndoStep &step)
+    {
+        const QString from = keyOf(step.from);
+        const QList<int> found = rows.values(from);
+        rows.remove(from);
+        for (const int row : found) {
+            // Events are processed meanwhile.
+            if (row >= list.count() || keyOf(list.path(row)) != from)
+                continue;
+            list.setPath(row, step.to);
+            rows.insert(keyOf(step.to), row);
+        }
+    }
+
+private:
+    /// A file that a run moved to another folder is listed by the way that led there.
+    static QString keyOf(const QString &path) { return isPlainPath(path) ? path : QDir::cleanPath(path); }
+
+    ListWidgetFiles &list;
+    QMultiHash<QString, int> rows;
+};
+
+void refuse(UndoRun::Refusal refusal, QWidget *above)
+{
+    const QString text = refusalText(refusal);
+    AppLog::instance()->append(text);
+    QMessageBox *box = createMessageBox(above, QMessageBox::Information);
+    box->setText(text);
+    addCloseButton(box, closeRunsText());
+    execMessageBox(box);
+}
+
+} // namespace
+
+TakingBack::TakingBack(WindowParts windowParts, RunHistory &runHistory)
+    : parts(std::move(windowParts))
+    , history(runHistory)
+{
+}
+
+void TakingBack::undo()
+{
+    takeNewestBack(&JournalFolder::undoable);
+}
+
+void TakingBack::redo()
+{
+    takeNewestBack(&JournalFolder::redoable);
+}
+
+void TakingBack::takeNewestBack(Choice choice)
+{
+    QWidget *window = parts.list.window();
+    const auto dialogs = window->findChildren<ProgressDialog *>();
+    const bool isBusy = std::any_of(dialogs.begin(), dialogs.end(),
+                                    [](const ProgressDialog *dialog) { return !dialog->isHidden(); });
+    if (isBusy || parts.list.isHandlingDrop())
+        return;
+    // Not what the history knew last: another instance may have been quicker.
+    const QList<JournalInfo> newestFirst = history.journals().list();
+    if (const JournalInfo *journal = choice(newestFirst))
+        takeBack(journal->name, window);
+    else
+        history.refresh();
+}
+
+void TakingBack::takeBack(const QString &journal, QWidget *above)
+{
+    SystemDisk disk;
+    const UndoRun::Begun begun =
+        UndoRun::begin(history.journals(), journal, disk, QCoreApplication::applicationVersion());
+    if (!begun.run) {
+        history.refresh();
+        refuse(begun.refusal, above);
+        return;
+    }
+    UndoRun &run = *begun.run;
+    AppLog::instance()->append(undoStartedText());
+    RunFigures figures{.total = run.total()};
+    const auto most = static_cast<qint64>(std::numeric_limits<int>::max());
+    RunProgress progress(above, static_cast<int>(std::min(figures.total, most)));
+    parts.preview.setChecked(false);
+    Failures failures;
+    const bool isComplete = takeAllBack(run, progress, figures, failures);
+    run.end(!isComplete);
+    if (!run.journalError().isEmpty())
+        tellUnrecorded(run.journalError());
+    progress.close();
+    parts.refreshRows();
+    parts.fates.showFailures(failures);
+    history.refresh();
+    showReport(above, figures, failures);
+}
+
+bool TakingBack::takeAllBack(UndoRun &run, RunProgress &progress, RunFigures &figures,
+                             Failures &failures) const
+{
+    const SelectionKept selection(parts.explorer, parts.list);
+    RowsOfFiles rows(parts.list);
+    int steps = 0;
+    while (const auto step = run.next()) {
+        if (step->isDone()) {
+            ++figures.processed;
+            rows.follow(*step);
+        } else {
+            ++figures.failed;
+            const Fate fate = fateOf(*step);
+            const FilePath file{.path = step->from, .nameAt = step->nameAt};
+            AppLog::instance()->append(notTakenBackText(file.name(), reasonText(fate)));
+            qDebug("not taken back: %s", qPrintable(idOf(step->result)));
+            failures.append({rows.rowOf(step->from), file, {.fate = fate, .reason = fate, .path = step->to}});
+        }
+        if (!progress.goOn(steps++))
+            return false;
+    }
+    return true;
+}

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/undobuttons.h"
+
+#include "dialogs/runtexts.h"
+#include "mainwindow/fatetexts.h"
+#include "mainwindow/runhistory.h"
+#include "mainwindow/takingback.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QMenu>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHistory &runHistory,
+                         TakingBack &takingBack)
+    : QObject(undoButton->window())
+    , buttonUndo(undoButton)
+    , buttonRuns(runsButton)
+    , history(runHistory)
+    , menu(new QMenu(buttonRuns))
+    , actionUndo(menu->addAction(QIcon(u":/img/undo.png"_s), {}))
+    , actionRedo(menu->addAction(QIcon(u":/img/redo.png"_s), {}))
+{
+    QWidget *window = undoButton->window();
+    actionUndo->setObjectName(u"actionUndo"_s);
+    actionUndo->setShortcut(Qt::CTRL | Qt::Key_Z);
+    actionRedo->setObjectName(u"actionRedo"_s);
+    actionRedo->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    // A menu's keys do not count while it is closed.
+    window->addActions({actionUndo, actionRedo});
+    connect(buttonUndo, &QToolButton::clicked, this, [&takingBack] { takingBack.undo(); });
+    connect(actionUndo, &QAction::triggered, this, [&takingBack] { takingBack.undo(); });
+    connect(actionRedo, &QAction::triggered, this, [&takingBack] { takingBack.redo(); });
+    connect(buttonRuns, &QToolButton::clicked, this, &UndoButtons::openMenu);
+    connect(&history, &RunHistory::changed, this, &UndoButtons::showHistory);
+    window->installEventFilter(this);
+    retranslate();
+}
+
+void UndoButtons::openMenu()
+{
+    menu->popup(buttonRuns->mapToGlobal(QPoint(0, buttonRuns->height())));
+}
+
+void UndoButtons::showHistory()
+{
+    const auto &undoable = history.undoable();
+    buttonUndo->setEnabled(undoable.has_value());
+    buttonUndo->setToolTip(undoable ? plainToolTip(takeBackText(*undoable)) : QString());
+    actionUndo->setEnabled(undoable.has_value());
+    actionRedo->setEnabled(history.redoable().has_value());
+}
+
+void UndoButtons::retranslate()
+{
+    actionUndo->setText(undoText());
+    actionRedo->setText(redoText());
+    showHistory();
+}
+
+bool UndoButtons::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    return QObject::eventFilter(watched, event);
+}
