@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>%1 Umbenennungen von %2 in %3 Ordnern zurücknehmen</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Läufe</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Umbenannt</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>teilweise zurückgenommen</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>zurückgenommen</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>in Arbeit</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>von einem anderen Rechner</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>von einer neueren Version</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, später erneut umbenannt</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>Der Lauf von %1 hat einige dieser Dateien umbenannt. Nehmen Sie zuerst diesen zurück.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Dateien zeigen</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergessen</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Alle vergessen</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Alle Läufe vergessen? Die Dateien bleiben, wie sie sind, und kein Lauf kann mehr zurückgenommen werden.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Dateien des Laufs von %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Alter Name</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Neuer Name</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>hat den neuen Namen</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>hat den alten Namen</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>dort ist eine andere Datei</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>ist nicht da</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Läufe…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Restaurar %1 nombres cambiados a las %2 en %3 carpetas</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Ejecuciones</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Renombrados</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>deshecha en parte</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>deshecha</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completa</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrumpida</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>de otro equipo</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>de una versión más reciente</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>ilegible</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, modificada por una ejecución posterior</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>La ejecución de %1 cambió el nombre de algunos de estos archivos. Deshaga primero esa ejecución.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Mostrar archivos</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Olvidar</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Olvidar todas</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>¿Olvidar todas las ejecuciones? Los archivos quedan como están y ya no se podrá deshacer ninguna ejecución.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Archivos de la ejecución de %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Nombre anterior</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nombre nuevo</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>tiene el nombre nuevo</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>tiene el nombre anterior</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>hay otro archivo allí</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>no está</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Ejecuciones…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

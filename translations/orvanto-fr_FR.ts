@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Rétablir %1 noms changés à %2 dans %3 dossiers</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Exécutions</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quand</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Renommés</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>annulée en partie</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>annulée</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>complète</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>interrompue par vous</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompue</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>d’un autre ordinateur</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>d’une version plus récente</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, modifiée par une exécution ultérieure</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>L’exécution de %1 a renommé certains de ces fichiers. Annulez d’abord celle-ci.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Annuler l’exécution</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Afficher les fichiers</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Oublier</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Tout oublier</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Oublier toutes les exécutions ? Les fichiers restent tels quels, et aucune exécution ne pourra plus être annulée.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Fichiers de l’exécution de %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Ancien nom</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nouveau nom</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>porte le nouveau nom</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>porte l’ancien nom</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>un autre fichier s’y trouve</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>n’est plus là</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Exécutions…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Ripristina %1 nomi cambiati alle %2 in %3 cartelle</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Esecuzioni</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Rinominati</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>annullata in parte</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>annullata</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completa</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>interrotta dall’utente</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrotta</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>in corso</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>di un altro computer</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>di una versione più recente</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>illeggibile</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, modificata da un’esecuzione successiva</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>L’esecuzione di %1 ha rinominato alcuni di questi file. Annullare prima quella.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Annulla esecuzione</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Mostra i file</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Dimentica</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Dimentica tutte</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Dimenticare tutte le esecuzioni? I file restano come sono e nessuna esecuzione potrà più essere annullata.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>File dell’esecuzione di %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Vecchio nome</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nuovo nome</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>ha il nuovo nome</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>ha il vecchio nome</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>lì c’è un altro file</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>non c’è</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Esecuzioni…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

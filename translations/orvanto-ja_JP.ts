@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>%2 に %3 個のフォルダーで行った %1 件の名前変更を元に戻す</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>変更数</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>一部を元に戻しました</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>元に戻しました</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>キャンセル済み</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>処理中</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>別のコンピューターのもの</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>新しいバージョンのもの</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>読み取り不可</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1（後の実行で再変更）</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>%1 の実行でこれらのファイルの一部の名前が変更されています。先にその実行を元に戻してください。</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>ファイルを表示</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>記録を消す</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>すべての記録を消す</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>すべての実行の記録を消しますか？ファイルはそのまま残り、どの実行も元に戻せなくなります。</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>%1 の実行のファイル</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>元の名前</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新しい名前</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>新しい名前です</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>元の名前です</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>別のファイルがあります</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>見つかりません</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>実行の一覧…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

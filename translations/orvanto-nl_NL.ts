@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>%1 hernoemingen van %2 in %3 mappen terugdraaien</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Uitvoeringen</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wanneer</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Hernoemd</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Toestand</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>deels teruggedraaid</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>teruggedraaid</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>volledig</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>geannuleerd</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>onderbroken</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>bezig</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>van een andere computer</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>van een nieuwere versie</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>onleesbaar</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, later opnieuw hernoemd</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>De uitvoering van %1 heeft enkele van deze bestanden hernoemd. Draai die eerst terug.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Terugdraaien</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Bestanden tonen</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Vergeten</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Alles vergeten</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Alle uitvoeringen vergeten? De bestanden blijven zoals ze zijn en geen uitvoering kan nog worden teruggedraaid.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Bestanden van de uitvoering van %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Oude naam</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nieuwe naam</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nu</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>heeft de nieuwe naam</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>heeft de oude naam</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>daar staat een ander bestand</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>is er niet</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Uitvoeringen…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Przywróć zmienione nazwy (%1) z %2, foldery: %3</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Przebiegi</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Kiedy</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Zmienione</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>częściowo cofnięty</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>cofnięty</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>pełny</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>anulowany</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>przerwany</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>w toku</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>z innego komputera</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>z nowszej wersji</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>nieczytelny</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, zmienione przez późniejszy przebieg</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>Przebieg z %1 zmienił nazwy niektórych z tych plików. Najpierw cofnij tamten.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Cofnij</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Pokaż pliki</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Zapomnij</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Zapomnij wszystkie</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Zapomnieć wszystkie przebiegi? Pliki pozostaną bez zmian i żadnego przebiegu nie będzie już można cofnąć.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Pliki przebiegu z %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Stara nazwa</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Nowa nazwa</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Teraz</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>ma nową nazwę</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>ma starą nazwę</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>jest tam inny plik</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>nie ma go</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Przebiegi…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

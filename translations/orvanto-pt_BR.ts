@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Restaurar %1 nomes alterados às %2 em %3 pastas</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Execuções</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Renomeados</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>desfeita em parte</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>desfeita</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completa</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>cancelada</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompida</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>em andamento</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>de outro computador</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>de uma versão mais recente</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>ilegível</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, alterada por uma execução posterior</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>A execução de %1 renomeou alguns destes arquivos. Desfaça primeiro aquela.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Mostrar arquivos</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Esquecer</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Esquecer todas</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Esquecer todas as execuções? Os arquivos ficam como estão e nenhuma execução poderá mais ser desfeita.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Arquivos da execução de %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Nome antigo</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Novo nome</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>tem o nome novo</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>tem o nome antigo</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>há outro arquivo ali</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>não está lá</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Execuções…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Вернуть прежние имена: %1 (запуск %2, папок: %3)</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Запуски</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Когда</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Переименовано</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>отменён частично</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>отменён</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>завершён</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>прерван вами</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>прерван</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>выполняется</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>с другого компьютера</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>из более новой версии</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>не читается</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, затронут более поздним запуском</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>Запуск %1 переименовал некоторые из этих файлов. Сначала отмените его.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Отменить запуск</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Показать файлы</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Забыть</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Забыть все</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Забыть все запуски? Файлы останутся как есть, и ни один запуск больше нельзя будет отменить.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Файлы запуска %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Старое имя</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Новое имя</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>носит новое имя</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>носит старое имя</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>там другой файл</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>отсутствует</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Запуски…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

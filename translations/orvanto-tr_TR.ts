@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>%2 çalıştırmasında %3 klasörde yapılan %1 yeniden adlandırmayı geri al</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Çalıştırmalar</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Ne zaman</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Adlandırılan</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>kısmen geri alındı</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>geri alındı</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>tamamlandı</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>iptal edildi</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>kesildi</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>sürüyor</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>başka bir bilgisayardan</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>daha yeni bir sürümden</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>okunamıyor</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, sonraki bir çalıştırmayla değişti</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>%1 çalıştırması bu dosyalardan bazılarını yeniden adlandırdı. Önce onu geri alın.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Geri al</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Dosyaları göster</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Unut</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Tümünü unut</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Tüm çalıştırmalar unutulsun mu? Dosyalar olduğu gibi kalır ve artık hiçbir çalıştırma geri alınamaz.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>%1 çalıştırmasının dosyaları</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Eski ad</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Yeni ad</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Şimdi</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>yeni adını taşıyor</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>eski adını taşıyor</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>orada başka bir dosya var</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>yerinde yok</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Çalıştırmalar…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

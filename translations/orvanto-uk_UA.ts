@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>Повернути попередні імена: %1 (запуск %2, тек: %3)</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>Запуски</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Коли</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>Перейменовано</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Стан</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>скасовано частково</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>скасовано</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>завершено</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>зупинено вами</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>перервано</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>виконується</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>з іншого комп’ютера</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>із новішої версії</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>не читається</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1, змінено пізнішим запуском</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>Запуск %1 перейменував деякі з цих файлів. Спочатку скасуйте його.</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Скасувати запуск</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>Показати файли</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Забути</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>Забути всі</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>Забути всі запуски? Файли залишаться як є, і жоден запуск уже не можна буде скасувати.</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>Файли запуску %1</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>Старе ім’я</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>Нове ім’я</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Зараз</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>має нове ім’я</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>має старе ім’я</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>там інший файл</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>відсутній</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Запуски…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -881,6 +881,126 @@
         <source>Take back %1 renames of %2 in %3 folders</source>
         <translation>恢复 %2 在 %3 个文件夹中的 %1 次重命名</translation>
     </message>
+    <message>
+        <source>Runs</source>
+        <translation>运行记录</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Renamed</source>
+        <translation>已重命名</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>partly taken back</source>
+        <translation>已部分撤销</translation>
+    </message>
+    <message>
+        <source>taken back</source>
+        <translation>已撤销</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>cancelled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>in hand</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>of another machine</source>
+        <translation>来自另一台计算机</translation>
+    </message>
+    <message>
+        <source>of a newer version</source>
+        <translation>来自更新的版本</translation>
+    </message>
+    <message>
+        <source>unreadable</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>%1, touched by a later run</source>
+        <translation>%1，之后又被其他运行更改</translation>
+    </message>
+    <message>
+        <source>The run of %1 renamed some of these files. Take that one back first.</source>
+        <translation>%1 的运行重命名了其中一些文件。请先撤销那一次。</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Show files</source>
+        <translation>显示文件</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>删除记录</translation>
+    </message>
+    <message>
+        <source>Forget all</source>
+        <translation>删除所有记录</translation>
+    </message>
+    <message>
+        <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
+        <translation>删除所有运行记录？文件保持原样，之后将无法撤销任何运行。</translation>
+    </message>
+    <message>
+        <source>Files of the Run of %1</source>
+        <translation>%1 运行的文件</translation>
+    </message>
+    <message>
+        <source>Old name</source>
+        <translation>旧名称</translation>
+    </message>
+    <message>
+        <source>New name</source>
+        <translation>新名称</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>现状</translation>
+    </message>
+    <message>
+        <source>has its new name</source>
+        <translation>使用新名称</translation>
+    </message>
+    <message>
+        <source>has its old name</source>
+        <translation>使用旧名称</translation>
+    </message>
+    <message>
+        <source>another file is there</source>
+        <translation>该处是另一个文件</translation>
+    </message>
+    <message>
+        <source>is not there</source>
+        <translation>不存在</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>运行记录…</translation>
+    </message>
 </context>
 <context>
     <name>TrayIcon</name>

@@ -68,6 +68,117 @@ QString refusalText(UndoRun::Refusal refusal)
     }
 }
 
+QString runsTitle()
+{
+    return Runs::tr("Runs");
+}
+
+QStringList runHeadings()
+{
+    return {Runs::tr("When"), Runs::tr("Renamed"), Runs::tr("Folder"), Runs::tr("State")};
+}
+
+namespace {
+
+QString plainStateText(const JournalInfo &run)
+{
+    if (run.canTakeBack() && run.isPartlyTakenBack())
+        return Runs::tr("partly taken back");
+    switch (run.state) {
+    case JournalInfo::State::Complete:
+        return run.isTakenBack() ? Runs::tr("taken back") : Runs::tr("complete");
+    case JournalInfo::State::Cancelled:
+        return run.isTakenBack() ? Runs::tr("taken back") : Runs::tr("cancelled");
+    case JournalInfo::State::Interrupted:
+        return run.isTakenBack() ? Runs::tr("taken back") : Runs::tr("interrupted");
+    case JournalInfo::State::InHand:
+        return Runs::tr("in hand");
+    case JournalInfo::State::OtherMachine:
+        return Runs::tr("of another machine");
+    case JournalInfo::State::Newer:
+        return Runs::tr("of a newer version");
+    case JournalInfo::State::Unreadable:
+        return Runs::tr("unreadable");
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+QString stateText(const JournalInfo &run, const JournalInfo *later)
+{
+    const QString state = plainStateText(run);
+    return later ? Runs::tr("%1, touched by a later run").arg(state) : state;
+}
+
+QString touchedText(const JournalInfo &later)
+{
+    return Runs::tr("The run of %1 renamed some of these files. Take that one back first.")
+        .arg(timeText(later.time));
+}
+
+QString noteText(const JournalInfo &run)
+{
+    if (run.unrecorded > 0)
+        return Runs::tr("The last renames of this run cannot be undone: %1").arg(run.unrecorded);
+    return {};
+}
+
+QString takeBackButtonText()
+{
+    return Runs::tr("Take back");
+}
+
+QString showFilesText()
+{
+    return Runs::tr("Show files");
+}
+
+QString forgetText()
+{
+    return Runs::tr("Forget");
+}
+
+QString forgetAllText()
+{
+    return Runs::tr("Forget all");
+}
+
+QString forgetAllQuestion()
+{
+    return Runs::tr("Forget all runs? The files stay as they are, and no run can be taken back any more.");
+}
+
+QString filesTitle(const JournalInfo &run)
+{
+    return Runs::tr("Files of the Run of %1").arg(timeText(run.time));
+}
+
+QStringList runFileHeadings()
+{
+    return {Runs::tr("Old name"), Runs::tr("New name"), Runs::tr("Now"), Runs::tr("Folder")};
+}
+
+QString thereNowText(FileNow now)
+{
+    switch (now) {
+    case FileNow::HasNewName:
+        return Runs::tr("has its new name");
+    case FileNow::HasOldName:
+        return Runs::tr("has its old name");
+    case FileNow::OtherFile:
+        return Runs::tr("another file is there");
+    case FileNow::Missing:
+        return Runs::tr("is not there");
+    }
+    Q_UNREACHABLE();
+}
+
+QString runsMenuText()
+{
+    return Runs::tr("Runs…");
+}
+
 QString undoText()
 {
     return Runs::tr("Undo");

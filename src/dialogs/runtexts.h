@@ -5,7 +5,7 @@
 
 #include "run/undorun.h"
 
-#include <QString>
+#include <QStringList>
 
 // Runs and what their journals tell, in words.
 
@@ -19,7 +19,29 @@
 /// Why a run cannot be taken back.
 [[nodiscard]] QString refusalText(UndoRun::Refusal refusal);
 
+// Of the list of runs.
+[[nodiscard]] QString runsTitle();
+[[nodiscard]] QStringList runHeadings();
+/// What became of it, and whether a later run touched its files.
+[[nodiscard]] QString stateText(const JournalInfo &run, const JournalInfo *later);
+/// That the later run has to be taken back before.
+[[nodiscard]] QString touchedText(const JournalInfo &later);
+/// What else is to be known of a run; mostly nothing.
+[[nodiscard]] QString noteText(const JournalInfo &run);
+[[nodiscard]] QString takeBackButtonText();
+[[nodiscard]] QString showFilesText();
+[[nodiscard]] QString forgetText();
+[[nodiscard]] QString forgetAllText();
+[[nodiscard]] QString forgetAllQuestion();
+
+// Of the files of a run.
+enum class FileNow { HasNewName, HasOldName, OtherFile, Missing };
+[[nodiscard]] QString filesTitle(const JournalInfo &run);
+[[nodiscard]] QStringList runFileHeadings();
+[[nodiscard]] QString thereNowText(FileNow now);
+
 // Of the menu.
+[[nodiscard]] QString runsMenuText();
 [[nodiscard]] QString undoText();
 [[nodiscard]] QString redoText();
 [[nodiscard]] QString closeRunsText();

@@ -27,7 +27,7 @@ RunProgress::RunProgress(QWidget *parent, int total)
 bool RunProgress::goOn(int item)
 {
     dialog.setProgress(item);
-    if (dialog.isHidden())
+    if (isCancelled())
         return false;
     QCoreApplication::processEvents();
     return true;

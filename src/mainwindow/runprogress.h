@@ -11,9 +11,11 @@ class RunProgress final
 {
 public:
     RunProgress(QWidget *parent, int total);
+    void setTotal(int total) { dialog.total = total; }
 
     /// To be told after each item, from 0; processes events. False when the dialog was cancelled.
     [[nodiscard]] bool goOn(int item);
+    [[nodiscard]] bool isCancelled() const { return dialog.isHidden(); }
     void close() { dialog.close(); }
 
 private:

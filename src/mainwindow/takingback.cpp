@@ -19,6 +19,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QMultiHash>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -61,6 +62,23 @@ private:
     ListWidgetFiles &list;
     QMultiHash<QString, int> rows;
 };
+
+/// The window stays alive: a million renames of later runs take seconds to be looked through.
+UndoRun::Begun beginAside(JournalFolder &journals, const QString &journal, Disk &disk)
+{
+    UndoRun::Begun begun;
+    bool isDone = false;
+    QObject here;
+    QThreadPool aside;
+    aside.start([&] {
+        begun = UndoRun::begin(journals, journal, disk, QCoreApplication::applicationVersion());
+        QMetaObject::invokeMethod(&here, [&isDone] { isDone = true; });
+    });
+    while (!isDone)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    aside.waitForDone();
+    return begun;
+}
 
 void refuse(UndoRun::Refusal refusal, QWidget *above)
 {
@@ -109,9 +127,11 @@ void TakingBack::takeNewestBack(Choice choice)
 void TakingBack::takeBack(const QString &journal, QWidget *above)
 {
     SystemDisk disk;
-    const UndoRun::Begun begun =
-        UndoRun::begin(history.journals(), journal, disk, QCoreApplication::applicationVersion());
+    RunProgress progress(above, 0);
+    parts.preview.setChecked(false);
+    const UndoRun::Begun begun = beginAside(history.journals(), journal, disk);
     if (!begun.run) {
+        progress.close();
         history.refresh();
         refuse(begun.refusal, above);
         return;
@@ -120,8 +140,7 @@ void TakingBack::takeBack(const QString &journal, QWidget *above)
     AppLog::instance()->append(undoStartedText());
     RunFigures figures{.total = run.total()};
     const auto most = static_cast<qint64>(std::numeric_limits<int>::max());
-    RunProgress progress(above, static_cast<int>(std::min(figures.total, most)));
-    parts.preview.setChecked(false);
+    progress.setTotal(static_cast<int>(std::min(figures.total, most)));
     Failures failures;
     const bool isComplete = takeAllBack(run, progress, figures, failures);
     run.end(!isComplete);
@@ -140,6 +159,8 @@ bool TakingBack::takeAllBack(UndoRun &run, RunProgress &progress, RunFigures &fi
     const SelectionKept selection(parts.explorer, parts.list);
     RowsOfFiles rows(parts.list);
     int steps = 0;
+    if (progress.isCancelled())
+        return false;
     while (const auto step = run.next()) {
         if (step->isDone()) {
             ++figures.processed;

@@ -3,6 +3,7 @@
 
 #include "mainwindow/undobuttons.h"
 
+#include "dialogs/dialogruns.h"
 #include "dialogs/runtexts.h"
 #include "mainwindow/fatetexts.h"
 #include "mainwindow/runhistory.h"
@@ -24,6 +25,7 @@ UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHi
     , menu(new QMenu(buttonRuns))
     , actionUndo(menu->addAction(QIcon(u":/img/undo.png"_s), {}))
     , actionRedo(menu->addAction(QIcon(u":/img/redo.png"_s), {}))
+    , actionRuns(menu->addAction(QIcon(u":/img/runs.png"_s), {}))
 {
     QWidget *window = undoButton->window();
     actionUndo->setObjectName(u"actionUndo"_s);
@@ -35,6 +37,8 @@ UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHi
     connect(buttonUndo, &QToolButton::clicked, this, [&takingBack] { takingBack.undo(); });
     connect(actionUndo, &QAction::triggered, this, [&takingBack] { takingBack.undo(); });
     connect(actionRedo, &QAction::triggered, this, [&takingBack] { takingBack.redo(); });
+    actionRuns->setObjectName(u"actionRuns"_s);
+    connect(actionRuns, &QAction::triggered, this, [this, &takingBack] { showRuns(takingBack); });
     connect(buttonRuns, &QToolButton::clicked, this, &UndoButtons::openMenu);
     connect(&history, &RunHistory::changed, this, &UndoButtons::showHistory);
     window->installEventFilter(this);
@@ -44,6 +48,16 @@ UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHi
 void UndoButtons::openMenu()
 {
     menu->popup(buttonRuns->mapToGlobal(QPoint(0, buttonRuns->height())));
+}
+
+void UndoButtons::showRuns(TakingBack &takingBack)
+{
+    DialogRuns dialog(history.journals(), buttonRuns->window());
+    dialog.takeBack = [&dialog, &takingBack](const QString &run) {
+        takingBack.takeBack(run, &dialog);
+    };
+    dialog.exec();
+    history.refresh();
 }
 
 void UndoButtons::showHistory()
@@ -59,6 +73,7 @@ void UndoButtons::retranslate()
 {
     actionUndo->setText(undoText());
     actionRedo->setText(redoText());
+    actionRuns->setText(runsMenuText());
     showHistory();
 }
 

@@ -29,6 +29,7 @@ private:
     void showHistory();
     void retranslate();
     void openMenu();
+    void showRuns(TakingBack &takingBack);
 
     QToolButton *buttonUndo;
     QToolButton *buttonRuns;
@@ -36,4 +37,5 @@ private:
     QMenu *menu;
     QAction *actionUndo;
     QAction *actionRedo;
+    QAction *actionRuns;
 };

@@ -6,10 +6,12 @@
 #include "run/journal.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
 
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -94,6 +96,9 @@ public:
     /// The newest later run that renamed a file of this one's and still stands; that one has to be taken back
     /// before. Reads all of the journals in question.
     [[nodiscard]] QString touchedBy(const QString &name) const;
+    /// The same for all runs that can be taken back, with each journal read once: the later one by the
+    /// earlier one's name. Gives up when told to stop. May be called by any thread.
+    [[nodiscard]] QHash<QString, QString> touchedRuns(const std::atomic<bool> &stop) const;
 
     /// Starts the journal of a run, or of one that takes another back. Nothing when that cannot be; error
     /// then says why, for a log.

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fault/inject/systemfaults.h"
-#include "unit/run/journalfiles.h"
+#include "support/journalfiles.h"
 
 #include <QTest>
 

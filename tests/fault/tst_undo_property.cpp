@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/environment.h"
-#include "unit/run/journalfiles.h"
+#include "support/journalfiles.h"
 
 #include <QDirIterator>
 #include <QMap>

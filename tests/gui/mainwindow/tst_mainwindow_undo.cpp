@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTest>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -262,6 +263,19 @@ private slots:
         QTRY_VERIFY(!button()->isEnabled());
     }
 
+    void cancelledBeforeTheFirstStepNothingIsTakenBack()
+    {
+        renameTwo();
+        QTRY_VERIFY(button()->isEnabled());
+        const DuringEvents cancel([&](int) {
+            if (ProgressDialog *dialog = window->waitDialog(); dialog && dialog->total == 0)
+                dialog->reject();
+        });
+        button()->click();
+        QCOMPARE(boxes->seen.constFirst().text, report(2, 0, 0));
+        QCOMPARE(tree->names(u"dir"_s), QStringList({u"xa"_s, u"xb"_s}));
+    }
+
     void waitDialogIsThatOfARun()
     {
         renameTwo();
@@ -269,7 +283,8 @@ private slots:
         QList<int> steps;
         const DuringEvents watch([&](int) {
             const ProgressDialog *dialog = window->waitDialog();
-            if (!dialog || dialog->isHidden())
+            // While the journals are read nobody knows how many there are.
+            if (!dialog || dialog->isHidden() || dialog->total == 0)
                 return;
             QCOMPARE(dialog->windowTitle(), u"Please wait"_s);
             QCOMPARE(dialog->total, 2);
@@ -377,9 +392,41 @@ private slots:
         QVERIFY(menu);
         QCOMPARE(menu->actions().at(0)->text(), u"Undo"_s);
         QCOMPARE(menu->actions().at(1)->text(), u"Redo"_s);
+        QCOMPARE(menu->actions().at(2)->text(), u"Runs…"_s);
         menu->actions().at(0)->trigger();
         menu->close();
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"a"_s, u"b"_s}));
+    }
+
+    void runsAreTakenBackFromTheirList()
+    {
+        renameTwo();
+        window->files()->clear();
+        window->drop({tree->addFile(u"dir/c"_s)});
+        run();
+        boxes->seen.clear();
+        const ModalAnswer answer([&](QDialog *dialog) {
+            QCOMPARE(dialog->objectName(), u"DialogRuns"_s);
+            QCOMPARE(dialog->parentWidget(), window->get());
+            auto *runs = dialog->findChild<QTreeView *>(u"treeRuns"_s);
+            QCOMPARE(runs->model()->rowCount(), 2);
+            runs->setCurrentIndex(runs->model()->index(1, 0));
+            dialog->findChild<QPushButton *>(u"buttonTakeBack"_s)->click();
+            QCOMPARE(boxes->seen.size(), 1);
+            QCOMPARE(boxes->seen.constFirst().text, report(2, 2, 0));
+            QCOMPARE(boxes->seen.constFirst().parent, dialog);
+            QCOMPARE(runs->model()->index(1, 3).data().toString(), u"taken back"_s);
+            // Refused: there is nothing left.
+            QVERIFY(JournalFolder(tree->path(u"undo"_s)).forgetAll());
+            runs->setCurrentIndex(runs->model()->index(0, 0));
+            dialog->findChild<QPushButton *>(u"buttonTakeBack"_s)->click();
+            QCOMPARE(boxes->seen.constLast().text, u"Nothing of this run is left to be taken back."_s);
+            QCOMPARE(runs->model()->rowCount(), 0);
+        });
+        action("actionRuns")->trigger();
+        QVERIFY(answer.isDone());
+        QCOMPARE(tree->names(u"dir"_s), QStringList({u"a"_s, u"b"_s, u"xc"_s}));
+        QTRY_VERIFY(!button()->isEnabled());
     }
 
     void textsFollowTheLanguage()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "filesizelimit.h"
-#include "unit/run/journalfiles.h"
+#include "support/journalfiles.h"
 
 #include <QTest>
 #include <QThreadPool>

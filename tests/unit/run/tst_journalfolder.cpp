@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "unit/run/journalfiles.h"
+#include "support/journalfiles.h"
 
 #include <QLockFile>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "unit/run/journalfiles.h"
+#include "support/journalfiles.h"
 
 #include <QTest>
 
@@ -182,6 +182,12 @@ private slots:
         const QString second = files->run({{u"b"_s, u"x"_s}});
         QCOMPARE(files->journals.touchedBy(first), second);
         QCOMPARE(files->journals.touchedBy(apart), QString());
+        QCOMPARE(files->journals.touchedRuns(false), (QHash<QString, QString>{{first, second}}));
+        const QString third = files->run({{u"a"_s, u"y"_s}, {u"x"_s, u"z"_s}});
+        QCOMPARE(files->journals.touchedRuns(false),
+                 (QHash<QString, QString>{{first, third}, {second, third}}));
+        QCOMPARE(files->journals.touchedRuns(true), (QHash<QString, QString>()));
+        QCOMPARE(files->undo(third), QStringList(2, u"renamed"_s));
         QCOMPARE(files->undo(first), QStringList{refusal(UndoRun::Refusal::TouchedLater)});
         QCOMPARE(files->undo(apart), QStringList{u"renamed"_s});
         QCOMPARE(files->undo(second), QStringList{u"renamed"_s});

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "run/journalfolder.h"
+#include "run/journalreader.h"
+
+#include <QFile>
+#include <QHash>
+
+#include <algorithm>
+
+namespace {
+
+/// A file by its number, where it has one that stays.
+size_t keyOf(const FileStamp &file)
+{
+    return qHashMulti(1, file.volume, file.number);
+}
+
+size_t keyOf(const QString &folder, const QString &name)
+{
+    return qHashMulti(2, folder, name);
+}
+
+} // namespace
+
+QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo> &newestFirst) const
+{
+    QSet<size_t> keys;
+    QFile file(filePath(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return keys;
+    const QSet<qint64> gone = takenBack(name, newestFirst);
+    BackwardEntries entries(file);
+    while (const auto entry = entries.next()) {
+        if (gone.contains(entry->number))
+            continue;
+        keys.insert(keyOf(entry->folder, entry->to));
+        if (entry->file.number != 0)
+            keys.insert(keyOf(entry->file));
+    }
+    return keys;
+}
+
+QString JournalFolder::touchedBy(const QString &name) const
+{
+    const QList<JournalInfo> newestFirst = list();
+    std::optional<QSet<size_t>> files;
+    for (const JournalInfo &later : newestFirst) {
+        if (later.name <= name)
+            break;
+        if (!later.isRun() || !later.canTakeBack())
+            continue;
+        if (!files)
+            files = filesOf(name, newestFirst);
+        QFile file(filePath(later.name));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QSet<qint64> gone = takenBack(later.name, newestFirst);
+        BackwardEntries entries(file);
+        while (const auto entry = entries.next()) {
+            const bool stands = !gone.contains(entry->number);
+            if (stands &&
+                (files->contains(keyOf(entry->folder, entry->from)) || files->contains(keyOf(entry->file))))
+                return later.name;
+        }
+    }
+    return {};
+}
+
+QHash<QString, QString> JournalFolder::touchedRuns(const std::atomic<bool> &stop) const
+{
+    QHash<QString, QString> touched;
+    const QList<JournalInfo> newestFirst = list();
+    const auto counts = [](const JournalInfo &journal) {
+        return journal.isRun() && journal.canTakeBack();
+    };
+    auto left = std::count_if(newestFirst.begin(), newestFirst.end(), counts);
+    if (left < 2)
+        return touched;
+    // What was renamed there, and by which of them last.
+    QHash<size_t, qsizetype> renamedBy;
+    for (qsizetype run = 0; run < newestFirst.size(); ++run) {
+        const JournalInfo &journal = newestFirst.at(run);
+        QFile file(filePath(journal.name));
+        if (!counts(journal) || !file.open(QIODevice::ReadOnly))
+            continue;
+        const bool isOldest = --left == 0;
+        const QSet<qint64> gone = takenBack(journal.name, newestFirst);
+        qsizetype newest = run;
+        QList<size_t> keys;
+        BackwardEntries entries(file);
+        while (const auto entry = entries.next()) {
+            if (stop)
+                return {};
+            if (gone.contains(entry->number))
+                continue;
+            newest = std::min(newest, renamedBy.value(keyOf(entry->folder, entry->to), run));
+            if (entry->file.number != 0)
+                newest = std::min(newest, renamedBy.value(keyOf(entry->file), run));
+            if (isOldest)
+                continue;
+            keys.append(keyOf(entry->folder, entry->from));
+            if (entry->file.number != 0)
+                keys.append(keyOf(entry->file));
+        }
+        if (newest < run)
+            touched.insert(journal.name, newestFirst.at(newest).name);
+        for (const size_t key : std::as_const(keys)) {
+            if (!renamedBy.contains(key))
+                renamedBy.insert(key, run);
+        }
+    }
+    return touched;
+}
