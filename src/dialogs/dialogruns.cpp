@@ -83,6 +83,7 @@ void DialogRuns::createWidgets()
 {
     tree->setObjectName(u"treeRuns"_s);
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    tree->header()->setMinimumSectionSize(90);
     labelNote->setObjectName(u"labelNote"_s);
     labelNote->setTextFormat(Qt::PlainText);
     labelNote->setWordWrap(true);

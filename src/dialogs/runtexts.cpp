@@ -31,9 +31,12 @@ QString timeText(const QDateTime &time)
 {
     const QDateTime local = time.toLocalTime();
     const QLocale system = QLocale::system();
+    // Some locales have seconds in it.
+    const QString format = system.timeFormat(QLocale::ShortFormat).remove(u":ss"_s);
+    const QString text = system.toString(local.time(), format);
     if (local.date() == QDate::currentDate())
-        return system.toString(local.time(), QLocale::ShortFormat);
-    return system.toString(local, QLocale::ShortFormat);
+        return text;
+    return system.toString(local.date(), QLocale::ShortFormat) + u' ' + text;
 }
 
 QString placeText(const JournalInfo &journal)

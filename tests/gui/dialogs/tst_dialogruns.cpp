@@ -54,7 +54,7 @@ private:
     }
     [[nodiscard]] QString timeOf(const QString &run) const
     {
-        return QLocale::system().toString(files->info(run).time.toLocalTime().time(), QLocale::ShortFormat);
+        return files->info(run).time.toLocalTime().toString(u"HH:mm"_s);
     }
     /// The texts of the files' table of the selected run.
     [[nodiscard]] QStringList shownFiles() const

@@ -103,9 +103,8 @@ private slots:
     {
         renameTwo();
         QTRY_VERIFY(button()->isEnabled());
-        const QString time = QLocale::system().toString(
-            JournalFolder(tree->path(u"undo"_s)).list().first().time.toLocalTime().time(),
-            QLocale::ShortFormat);
+        const QString time =
+            JournalFolder(tree->path(u"undo"_s)).list().first().time.toLocalTime().toString(u"HH:mm"_s);
         QCOMPARE(button()->toolTip(),
                  u"Take back 2 renames of %1 in "_s.arg(time) + QDir::toNativeSeparators(u"/…/dir"_s));
         window->drop({tree->addFile(u"other/c"_s)});
