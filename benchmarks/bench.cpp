@@ -137,6 +137,19 @@ void Bench::openInExplorer(const QString &folder)
 
 double Bench::rename()
 {
+    return untilReport([this] { window.on_buttonRename_clicked(); });
+}
+
+double Bench::undo()
+{
+    auto *button = window.findChild<QToolButton *>(u"buttonUndo"_s);
+    while (!button->isEnabled())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return untilReport([button] { button->click(); });
+}
+
+double Bench::untilReport(const std::function<void()> &action)
+{
     QElapsedTimer timer;
     double seconds = 0;
     QTimer closer;
@@ -149,6 +162,6 @@ double Bench::rename()
     });
     closer.start(1);
     timer.start();
-    window.on_buttonRename_clicked();
+    action();
     return seconds;
 }

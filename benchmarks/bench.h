@@ -69,9 +69,14 @@ public:
     void clearRules();
     /// Runs the renaming and closes the report. Seconds until the report is there.
     [[nodiscard]] double rename();
+    /// Takes the run back, likewise.
+    [[nodiscard]] double undo();
     /// Opens a folder and all above it in the explorer's dock; returns when its rows are there.
     void openInExplorer(const QString &folder);
 
     MainWindow window;
     ListWidgetFiles *list;
+
+private:
+    [[nodiscard]] double untilReport(const std::function<void()> &action);
 };

@@ -18,6 +18,7 @@ import time
 
 ROUNDS = 5
 BARE, RUN, DROP_AND_RUN = "renameat2 alone", "Orvanto: Rename pressed", "Orvanto: drop and Rename"
+JOURNAL, UNDO = "Orvanto: with journal", "Orvanto: undo"
 NAMES = "find . -mindepth 1 -printf '%f\\0'"
 PEERS = {
     "mmv": ["mmv", "*", "new_#1"],
@@ -39,9 +40,13 @@ def fill(folder, count):
     os.sync()
 
 
-def restore(folder, count):
+def restore(folder, count, undone):
     """Gives every file its old name back, after a look at the new ones."""
     names = os.listdir(folder)
+    if undone:
+        if len(names) != count or not all(name.startswith("IMG_") for name in names):
+            sys.exit(f"{folder} does not hold {count} files with their old names")
+        return
     if len(names) != count or not all(name.startswith("new_IMG_") for name in names):
         sys.exit(f"{folder} does not hold {count} renamed files")
     descriptor = os.open(folder, os.O_RDONLY)
@@ -59,10 +64,15 @@ def seconds_of(tool, folder, programs, editor):
                        env={**os.environ, "EDITOR": editor, "VISUAL": editor})
         return {tool: time.monotonic() - begin}
     program = "orvanto_benchmark_bare" if tool == BARE else "orvanto_benchmark_run"
-    output = subprocess.run([programs / program, folder], check=True, capture_output=True).stdout.split()
+    words = {RUN: ["unrecorded"], UNDO: ["undo"]}.get(tool, [])
+    output = subprocess.run([programs / program, folder, *words], check=True, capture_output=True).stdout.split()
     if tool == BARE:
         return {BARE: float(output[1])}
-    return {RUN: float(output[2]), DROP_AND_RUN: float(output[1]) + float(output[2])}
+    if tool == RUN:
+        return {RUN: float(output[2])}
+    if tool == UNDO:
+        return {UNDO: float(output[3])}
+    return {JOURNAL: float(output[2]), DROP_AND_RUN: float(output[1]) + float(output[2])}
 
 
 def measure(place, count, programs):
@@ -74,10 +84,10 @@ def measure(place, count, programs):
         folder = pathlib.Path(name) / "files"
         fill(folder, count)
         for number in range(ROUNDS):
-            for tool in [BARE, RUN, *PEERS]:
+            for tool in [BARE, RUN, JOURNAL, UNDO, *PEERS]:
                 for row, seconds in seconds_of(tool, folder, programs, editor).items():
                     figures.setdefault(row, []).append(seconds)
-                restore(folder, count)
+                restore(folder, count, tool == UNDO)
             print(f"{place}, {count} files: round {number + 1} of {ROUNDS}", file=sys.stderr)
     return figures
 

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 // Puts "new_" before the name of every file below a folder, by the Rename button of a real main window, and
-// prints the seconds that adding the files and renaming them took. Usage: orvanto_benchmark_run folder [open]
-// With "open" the folder is open in the explorer's dock.
+// prints the seconds that adding the files and renaming them took.
+// Usage: orvanto_benchmark_run folder [open] [unrecorded] [undo]
+// With "open" the folder is open in the explorer's dock; with "unrecorded" no journal can be written; with
+// "undo" the run is taken back, and what that took and the longest pause in it are printed, too.
 
 #include "bench.h"
 
@@ -14,27 +16,40 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QApplication application(argc, argv);
-    const bool open = argc == 3 && qstrcmp(argv[2], "open") == 0;
-    if (argc != 2 && !open) {
-        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder [open]\n");
+    const QStringList words = QCoreApplication::arguments().sliced(1);
+    if (words.isEmpty()) {
+        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder [open] [unrecorded] [undo]\n");
         return 2;
     }
     const QString folder = QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();
     const QTemporaryDir dataDirectory;
     QDir::setCurrent(dataDirectory.path());
+    // What is no folder stands in the way.
+    if (QFile inTheWay(u"undo"_s); words.contains(u"unrecorded"_s) && !inTheWay.open(QIODevice::WriteOnly))
+        return 1;
     prepareBenchmark();
     Bench bench;
-    if (open)
+    if (words.contains(u"open"_s))
         bench.openInExplorer(folder);
     const double added = secondsOf([&] { bench.window.addPath(folder); });
     QCoreApplication::processEvents();
     bench.addRule(Kind::InsertText);
+    PauseMeter pausesOfRun;
     const double renamed = bench.rename();
-    std::printf("%d %.6f %.6f\n", bench.list->count(), added, renamed);
+    std::printf("%d %.6f %.6f", bench.list->count(), added, renamed);
+    if (words.contains(u"undo"_s)) {
+        std::printf(" (longest pause %.1f ms)", pausesOfRun.longest());
+        PauseMeter pauses;
+        const double undone = bench.undo();
+        std::printf(" %.6f (longest pause %.1f ms)", undone, pauses.longest());
+    }
+    std::printf("\n");
     return 0;
 }

@@ -18,7 +18,7 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
-#include <QMultiHash>
+#include <QHash>
 #include <QThreadPool>
 
 #include <algorithm>
@@ -26,41 +26,59 @@
 
 namespace {
 
-/// The rows of the list by the paths of their files.
+/// Which rows show the files that are taken back.
 class RowsOfFiles final
 {
 public:
     explicit RowsOfFiles(ListWidgetFiles &listOfFiles)
         : list(listOfFiles)
+        , last(list.count())
     {
-        rows.reserve(list.count());
-        for (int row = 0; row < list.count(); ++row)
-            rows.insert(keyOf(list.path(row)), row);
     }
 
     /// -1 where no row shows the file.
-    [[nodiscard]] int rowOf(const QString &path) const { return rows.value(keyOf(path), -1); }
+    [[nodiscard]] int rowOf(const QString &path)
+    {
+        // Mostly the rows of a run, from its last to its first, or of an undo, from its first to its last.
+        for (const int row : {last - 1, last + 1, 0}) {
+            if (rows.isEmpty() && row >= 0 && row < list.count() && list.path(row) == path)
+                return last = row;
+        }
+        if (rows.isEmpty())
+            lookAtAll();
+        const int row = rows.value(keyOf(path), -1);
+        // Events are processed meanwhile.
+        return row < list.count() && (row < 0 || keyOf(list.path(row)) == keyOf(path)) ? row : -1;
+    }
 
     void follow(const UndoStep &step)
     {
-        const QString from = keyOf(step.from);
-        const QList<int> found = rows.values(from);
-        rows.remove(from);
-        for (const int row : found) {
-            // Events are processed meanwhile.
-            if (row >= list.count() || keyOf(list.path(row)) != from)
-                continue;
-            list.setPath(row, step.to);
-            rows.insert(keyOf(step.to), row);
-        }
+        const int row = rowOf(step.from);
+        if (row < 0)
+            return;
+        list.setPath(row, step.to);
+        if (rows.isEmpty())
+            return;
+        rows.remove(keyOf(step.from));
+        rows.insert(keyOf(step.to), row);
     }
 
 private:
     /// A file that a run moved to another folder is listed by the way that led there.
     static QString keyOf(const QString &path) { return isPlainPath(path) ? path : QDir::cleanPath(path); }
 
+    void lookAtAll()
+    {
+        rows.reserve(list.count());
+        for (int row = 0; row < list.count(); ++row)
+            rows.insert(keyOf(list.path(row)), row);
+    }
+
     ListWidgetFiles &list;
-    QMultiHash<QString, int> rows;
+    /// The row found last.
+    int last;
+    /// By the paths of their files; empty as long as rows follow one another.
+    QHash<QString, int> rows;
 };
 
 /// The window stays alive: a million renames of later runs take seconds to be looked through.
