@@ -67,6 +67,9 @@ DialogRuns::DialogRuns(const JournalFolder &journals, QWidget *parent)
     setWindowTitle(runsTitle());
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowModality(Qt::WindowModal); // the icon in the tray stays alive
+    // The application's style sheet draws buttons that are off as if they were on.
+    setStyleSheet(
+        u"QPushButton[flat='false']:disabled{color:#707070;background:#f4f4f4;border-color:#e2e2e2}"_s);
     resize(640, 360);
     reader.setMaxThreadCount(1);
     createWidgets();
