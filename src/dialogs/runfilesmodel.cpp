@@ -21,6 +21,7 @@ RunFilesModel::RunFilesModel(const QString &journal, const QDateTime &runBegan, 
 {
     if (file.open(QIODevice::ReadOnly))
         entries.emplace(file);
+    fetchMore({});
 }
 
 int RunFilesModel::rowCount(const QModelIndex &parent) const

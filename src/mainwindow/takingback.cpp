@@ -51,16 +51,11 @@ public:
         return row < list.count() && (row < 0 || keyOf(list.path(row)) == keyOf(path)) ? row : -1;
     }
 
+    /// Each row once: a run renames no row twice.
     void follow(const UndoStep &step)
     {
-        const int row = rowOf(step.from);
-        if (row < 0)
-            return;
-        list.setPath(row, step.to);
-        if (rows.isEmpty())
-            return;
-        rows.remove(keyOf(step.from));
-        rows.insert(keyOf(step.to), row);
+        if (const int row = rowOf(step.from); row >= 0)
+            list.setPath(row, step.to);
     }
 
 private:
@@ -77,7 +72,7 @@ private:
     ListWidgetFiles &list;
     /// The row found last.
     int last;
-    /// By the paths of their files; empty as long as rows follow one another.
+    /// By the paths that their files had at first; empty as long as rows follow one another.
     QHash<QString, int> rows;
 };
 

@@ -24,6 +24,17 @@ constexpr qsizetype largestWindow = 1 << 20;
 /// Kept free behind each entry: for its refusal, for figures, and for those of the end, which must not fail.
 constexpr qsizetype forFigures = 1024;
 constexpr auto betweenSyncs = 900ms;
+/// As many as there are journals being written, which is one for each run in hand.
+constexpr int mostThreads = 1000;
+
+/// Not the pool that everybody uses: painting waits for a thread of it, and a run keeps its own to its end.
+class SyncThreads final : public QThreadPool
+{
+public:
+    SyncThreads() { setMaxThreadCount(mostThreads); }
+};
+
+Q_GLOBAL_STATIC(SyncThreads, syncThreads)
 
 } // namespace
 
@@ -79,7 +90,7 @@ std::unique_ptr<Journal> Journal::create(const QString &path, const JournalHeade
         return nullptr;
     }
     journal->append(line);
-    QThreadPool::globalInstance()->start([made] { made->keepSynced(); });
+    syncThreads->start([made] { made->keepSynced(); });
     return journal;
 }
 

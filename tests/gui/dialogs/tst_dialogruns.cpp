@@ -246,9 +246,7 @@ private slots:
         const QString path = journal->path();
         journal->end(false);
         RunFilesModel model(path, QDateTime::currentDateTimeUtc(), nullptr);
-        QCOMPARE(model.rowCount(), 0);
         QVERIFY(model.canFetchMore({}));
-        model.fetchMore({});
         QCOMPARE(model.rowCount(), 1000);
         QCOMPARE(model.index(0, RunFilesModel::OldNameColumn).data().toString(), u"4999"_s);
         while (model.canFetchMore({}))

@@ -195,6 +195,24 @@ private slots:
         QCOMPARE(tree->content(u"dir/a"_s), QByteArray("dir/a"));
     }
 
+    void rowsInAnyOrderFollow()
+    {
+        window->drop(tree->addFiles(u"dir/%1"_s, 9));
+        window->addInsert(u"x"_s);
+        run();
+        run();
+        QStringList expected;
+        for (const int row : {3, 0, 8, 1, 7, 2, 6, 4, 5})
+            expected.append(tree->path(u"dir/00%1"_s.arg(row)));
+        window->files()->clear();
+        window->drop(QStringList(expected).replaceInStrings(u"dir/"_s, u"dir/xx"_s));
+        undo();
+        undo();
+        QCOMPARE(window->rowPaths(), expected);
+        redo();
+        QCOMPARE(window->rowPaths(), QStringList(expected).replaceInStrings(u"dir/"_s, u"dir/x"_s));
+    }
+
     void onlyRowsOfTheRunFollow()
     {
         renameTwo();
@@ -257,6 +275,7 @@ private slots:
         QCOMPARE(boxes->seen.constFirst().text, report(10, 4, 0));
         QCOMPARE(tree->names(u"dir"_s).filter(QRegularExpression(u"^x"_s)).size(), 6);
         QTRY_VERIFY(button()->toolTip().startsWith("Take back 6 renames"_L1));
+        QCOMPARE(JournalFolder(tree->path(u"undo"_s)).list().first().state, JournalInfo::State::Cancelled);
         undo();
         QCOMPARE(tree->names(u"dir"_s).filter(QRegularExpression(u"^x"_s)).size(), 0);
         QTRY_VERIFY(!button()->isEnabled());
@@ -426,6 +445,17 @@ private slots:
         QVERIFY(answer.isDone());
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"a"_s, u"b"_s, u"xc"_s}));
         QTRY_VERIFY(!button()->isEnabled());
+    }
+
+    void forgottenRunsAreNoLongerOffered()
+    {
+        renameTwo();
+        QTRY_VERIFY(button()->isEnabled());
+        const ModalAnswer answer(
+            [&](QDialog *dialog) { dialog->findChild<QPushButton *>(u"buttonForget"_s)->click(); });
+        action("actionRuns")->trigger();
+        QTRY_VERIFY(!button()->isEnabled());
+        QCOMPARE(tree->names(u"dir"_s), QStringList({u"xa"_s, u"xb"_s}));
     }
 
     void textsFollowTheLanguage()

@@ -146,6 +146,14 @@ private slots:
         QCOMPARE(countOf<JournalEntry>(linesOf(files->bytes(name))), 1);
     }
 
+    /// Painting waits for a thread of that pool: two runs at once kept all of a machine with two processors.
+    void poolOfEverybodyIsLeftToOthers()
+    {
+        const auto first = files->begin(1);
+        const auto second = files->begin(1);
+        QCOMPARE(QThreadPool::globalInstance()->activeThreadCount(), 0);
+    }
+
     void runThatRenamedNothingLeavesNone()
     {
         files->tree.addFiles(u"f%1"_s, 2);
