@@ -6,6 +6,8 @@
 #include "support/duringevents.h"
 #include "support/modalanswer.h"
 
+#include "filesizelimit.h"
+
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -131,6 +133,21 @@ private slots:
         QCOMPARE(DrivenWindow::logLines(),
                  QStringList({u"File renaming started"_s, u"This run cannot be undone"_s,
                               u"Total 2 Processed 2 Failed 0"_s}));
+    }
+
+    void fullDiskIsToldWithTheNumberOfWhatIsLost()
+    {
+        window->drop(tree->addFiles(u"dir/%1"_s, 1000));
+        window->addInsert(u"x"_s);
+        {
+            const FileSizeLimit limit(1 << 16);
+            window->click("buttonRename");
+        }
+        QCOMPARE(boxes->seen.constFirst().text, u"Total 1000\nProcessed 1000\nFailed 0"_s);
+        const JournalInfo run = journals().first();
+        QVERIFY(run.unrecorded > 0 && run.renamed > 0);
+        QCOMPARE(DrivenWindow::logLines().at(1),
+                 u"The last renames of this run cannot be undone: %1"_s.arg(run.unrecorded));
     }
 
     void onlyFiftyAreKept()
