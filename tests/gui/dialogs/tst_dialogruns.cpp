@@ -54,7 +54,9 @@ private:
     }
     [[nodiscard]] QString timeOf(const QString &run) const
     {
-        return files->info(run).time.toLocalTime().toString(u"HH:mm"_s);
+        const QLocale system = QLocale::system();
+        return system.toString(files->info(run).time.toLocalTime(),
+                               system.timeFormat(QLocale::ShortFormat).remove(u":ss"_s));
     }
     /// The texts of the files' table of the selected run.
     [[nodiscard]] QStringList shownFiles() const
@@ -122,7 +124,8 @@ private slots:
         QCOMPARE(cell(0, RunModel::CountColumn), u"2"_s);
         QCOMPARE(cell(0, RunModel::PlaceColumn), u"2 folders"_s);
         QCOMPARE(cell(1, RunModel::CountColumn), u"1"_s);
-        QCOMPARE(cell(1, RunModel::PlaceColumn), QDir::toNativeSeparators(u"/…/one"_s));
+        QCOMPARE(cell(1, RunModel::PlaceColumn),
+                 QDir::toNativeSeparators(files->tree.path().section(u'/', 0, 0) + u"/…/one"_s));
         QCOMPARE(tree()->model()->index(1, RunModel::PlaceColumn).data(Qt::ToolTipRole).toString(),
                  QDir::toNativeSeparators(files->tree.path(u"one"_s)));
         QVERIFY(button("buttonTakeBack")->isEnabled());

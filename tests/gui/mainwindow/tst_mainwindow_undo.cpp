@@ -103,10 +103,12 @@ private slots:
     {
         renameTwo();
         QTRY_VERIFY(button()->isEnabled());
-        const QString time =
-            JournalFolder(tree->path(u"undo"_s)).list().first().time.toLocalTime().toString(u"HH:mm"_s);
-        QCOMPARE(button()->toolTip(),
-                 u"Take back 2 renames of %1 in "_s.arg(time) + QDir::toNativeSeparators(u"/…/dir"_s));
+        const QLocale system = QLocale::system();
+        const QDateTime time = JournalFolder(tree->path(u"undo"_s)).list().first().time.toLocalTime();
+        const QString hours = system.timeFormat(QLocale::ShortFormat).remove(u":ss"_s);
+        const QString root = tree->path().section(u'/', 0, 0);
+        QCOMPARE(button()->toolTip(), u"Take back 2 renames of %1 in "_s.arg(system.toString(time, hours)) +
+                                          QDir::toNativeSeparators(root + u"/…/dir"_s));
         window->drop({tree->addFile(u"other/c"_s)});
         run();
         QTRY_VERIFY(button()->toolTip().endsWith("in 2 folders"_L1));
