@@ -141,7 +141,6 @@ void TakingBack::takeBack(const QString &journal, QWidget *above)
 {
     SystemDisk disk;
     RunProgress progress(above, 0);
-    parts.preview.setChecked(false);
     const UndoRun::Begun begun = beginAside(history.journals(), journal, disk);
     if (!begun.run) {
         progress.close();
@@ -151,6 +150,7 @@ void TakingBack::takeBack(const QString &journal, QWidget *above)
     }
     UndoRun &run = *begun.run;
     AppLog::instance()->append(undoStartedText());
+    parts.preview.setChecked(false);
     RunFigures figures{.total = run.total()};
     const auto most = static_cast<qint64>(std::numeric_limits<int>::max());
     progress.setTotal(static_cast<int>(std::min(figures.total, most)));

@@ -437,11 +437,13 @@ private slots:
             QCOMPARE(boxes->seen.constFirst().parent, dialog);
             QCOMPARE(runs->model()->index(1, 3).data().toString(), u"taken back"_s);
             // Refused: there is nothing left.
+            window->preview()->setChecked(true);
             QVERIFY(JournalFolder(tree->path(u"undo"_s)).forgetAll());
             runs->setCurrentIndex(runs->model()->index(0, 0));
             dialog->findChild<QPushButton *>(u"buttonTakeBack"_s)->click();
             QCOMPARE(boxes->seen.constLast().text, u"Nothing of this run is left to be taken back."_s);
             QCOMPARE(runs->model()->rowCount(), 0);
+            QVERIFY(window->preview()->isChecked());
         });
         action("actionRuns")->trigger();
         QVERIFY(answer.isDone());
