@@ -5,7 +5,8 @@
 // prints the seconds that adding the files and renaming them took.
 // Usage: orvanto_benchmark_run folder [open] [unrecorded] [undo]
 // With "open" the folder is open in the explorer's dock; with "unrecorded" no journal can be written; with
-// "undo" the run is taken back, and what that took and the longest pause in it are printed, too.
+// "undo" the run is taken back, and printed are, too: what that took, the longest pause of the run, and that
+// of the undo.
 
 #include "bench.h"
 
@@ -45,10 +46,10 @@ int main(int argc, char **argv)
     const double renamed = bench.rename();
     std::printf("%d %.6f %.6f", bench.list->count(), added, renamed);
     if (words.contains(u"undo"_s)) {
-        std::printf(" (longest pause %.1f ms)", pausesOfRun.longest());
+        const double longest = pausesOfRun.longest();
         PauseMeter pauses;
         const double undone = bench.undo();
-        std::printf(" %.6f (longest pause %.1f ms)", undone, pauses.longest());
+        std::printf(" %.6f %.6f %.6f", undone, longest * 1e-3, pauses.longest() * 1e-3);
     }
     std::printf("\n");
     return 0;
