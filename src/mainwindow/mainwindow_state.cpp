@@ -282,14 +282,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
     closesAfterDrop = ui->listWidgetFiles->isHandlingDrop();
     if (closesAfterDrop)
         return;
-    if (!closesQuietly) {
-        // The tray's menu can close the window while it asks already.
-        if (findChild<DialogNotice *>()) {
-            raiseDialogs();
-            return;
-        }
+    // While it asks Qt closes nothing a second time.
+    if (!closesQuietly)
         requestSupport();
-    }
     saveWindowSettings();
     event->accept();
     if (closed)

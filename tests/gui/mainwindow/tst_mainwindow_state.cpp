@@ -38,6 +38,7 @@ private slots:
     void windowBeyondTheDesktopIsMovedBack();
     void dialogsBlockTheirWindowAlone();
     void dialogsComeToTheFrontWithTheWindow();
+    void closingWhileItAsksAsksNoSecondTime();
     void menuChecksTheEntryBelow_data();
     void menuChecksTheEntryBelow();
 
@@ -251,6 +252,21 @@ void MainWindowState::dialogsComeToTheFrontWithTheWindow()
     window.activateWindow();
     QTRY_VERIFY(dialog.isActiveWindow());
     dialog.reject();
+}
+
+void MainWindowState::closingWhileItAsksAsksNoSecondTime()
+{
+    const DrivenWindow window;
+    window->show();
+    SettingsStore::instance()->setValueByName(u"SupportUsHint"_s, true);
+    bool isAskedAgain = false;
+    const ModalAnswer first([&](const QDialog *) {
+        const ModalAnswer second([&](const QDialog *) { isAskedAgain = true; });
+        window->close();
+    });
+    window->close();
+    QVERIFY(first.isDone());
+    QVERIFY(!isAskedAgain);
 }
 
 void MainWindowState::menuChecksTheEntryBelow_data()
