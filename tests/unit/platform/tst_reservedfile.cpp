@@ -62,7 +62,7 @@ private slots:
         const qint64 step = ReservedFile::windowStep();
         char *window = file->moveWindow(0, step);
         {
-            const FileSizeLimit limit(static_cast<rlim_t>(step));
+            const FileSizeLimit limit(static_cast<quint64>(step));
             QVERIFY(!file->moveWindow(step, step));
             QVERIFY(!file->error().isEmpty());
         }
