@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Windows counts tenths of microseconds since 1601.
@@ -23,15 +25,23 @@ FileIdentity::Kind kindOf(DWORD attributes)
     return attributes & FILE_ATTRIBUTE_DIRECTORY ? FileIdentity::Kind::Folder : FileIdentity::Kind::File;
 }
 
+/// With a separator at its end, or a dot behind that, a path means where a link leads, as elsewhere. Windows
+/// would drop both.
+bool leadsThrough(const QString &path)
+{
+    const QString native = QDir::toNativeSeparators(path);
+    return native.endsWith(u'\\') || native.endsWith("\\."_L1);
+}
+
 } // namespace
 
 std::optional<FileIdentity> fileIdentity(const QString &path)
 {
     const QString full = extendedPath(path);
-    const HANDLE file =
-        CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_READ_ATTRIBUTES,
-                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                    FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    const DWORD itself = leadsThrough(path) ? 0 : FILE_FLAG_OPEN_REPARSE_POINT;
+    const HANDLE file = CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | itself, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return std::nullopt;
     BY_HANDLE_FILE_INFORMATION there = {};

@@ -13,5 +13,6 @@ enum class FileLock { Locked, HeldByAnother, Unsupported };
 /// The file must be open for writing.
 [[nodiscard]] FileLock lockFile(QFile &file);
 void unlockFile(QFile &file);
-/// Whether somebody has locked it who opened it elsewhere.
+/// Whether somebody has locked it who opened it elsewhere. Not to be asked of what is locked by this very
+/// file: on Windows that lock would go.
 [[nodiscard]] bool isLocked(QFile &file);

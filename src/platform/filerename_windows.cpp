@@ -5,6 +5,8 @@
 
 #include "platform/extendedpath_windows.h"
 
+#include <algorithm>
+
 #include <windows.h>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +24,23 @@ bool exists(const QString &extended)
     return GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16())) != INVALID_FILE_ATTRIBUTES;
 }
 
+/// Whether nothing is left of the last part without dots and blanks at its end: the folder would be the
+/// target.
+bool isDropped(const QString &path)
+{
+    const qsizetype lastSeparator = std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'));
+    const QStringView name = QStringView(path).sliced(lastSeparator + 1);
+    const bool isEmpty = std::all_of(name.begin(), name.end(),
+                                     [](QChar character) { return character == u'.' || character == u' '; });
+    return isEmpty && !name.isEmpty() && name != u"." && name != u"..";
+}
+
+bool isFolder(const QString &extended)
+{
+    const DWORD attributes = GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16()));
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 constexpr qsizetype longestName = 255;
 
 RenameResult meaningOf(DWORD error, const QString &source, const QString &target)
@@ -29,6 +48,9 @@ RenameResult meaningOf(DWORD error, const QString &source, const QString &target
     // The system calls such a name invalid.
     if (target.size() - target.lastIndexOf(u'\\') - 1 > longestName)
         return RenameResult::TooLong;
+    // A folder into itself: the system says that somebody uses it.
+    if (target.startsWith(source + u'\\', Qt::CaseInsensitive) && isFolder(source))
+        return RenameResult::BadName;
     switch (error) {
     case ERROR_ALREADY_EXISTS:
     case ERROR_FILE_EXISTS:
@@ -76,8 +98,8 @@ RenameResult FileRenamer::rename(const QString &from, const QString &to)
     const QString target = extendedPath(to);
     if (source.isEmpty())
         return RenameResult::SourceMissing;
-    if (target.isEmpty() || isStream(target))
-        return RenameResult::BadName;
+    if (target.isEmpty() || isStream(target) || isDropped(to))
+        return exists(source) ? RenameResult::BadName : RenameResult::SourceMissing;
     // Moving a file onto itself succeeds; here it is a target that exists.
     if (source == target)
         return exists(source) ? RenameResult::TargetExists : RenameResult::SourceMissing;

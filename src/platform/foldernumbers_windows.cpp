@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "platform/extendedpath_windows.h"
 #include "platform/foldernumbers.h"
 
-#include <QDir>
 #include <QHashFunctions>
 
 #include <array>
@@ -12,9 +12,9 @@
 
 FolderNumbers::FolderNumbers(const QString &folder)
 {
-    const QString native = QDir::toNativeSeparators(folder);
+    const QString full = extendedPath(folder);
     handle = reinterpret_cast<qintptr>(
-        CreateFileW(reinterpret_cast<const wchar_t *>(native.utf16()), FILE_LIST_DIRECTORY,
+        CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_LIST_DIRECTORY,
                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                     FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }

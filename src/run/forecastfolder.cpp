@@ -162,9 +162,11 @@ std::optional<Fate> ForecastFolder::refusalOf(QStringView name) const
         return known.names == FolderTraits::Names::Unknown ? Fate::Unknown : Fate::NotAllowed;
     if (namesDevice(name))
         return isWindows ? Fate::NotAllowed : Fate::Unknown;
-    // Windows drops them.
+    // Windows drops them; something has to be left.
     if (endsInDotOrBlank(name) && !isWindows)
         return Fate::Unknown;
+    if (isWindows && keyOf(name).isEmpty())
+        return Fate::NotAllowed;
     return std::nullopt;
 }
 

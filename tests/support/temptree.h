@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "memoryfolder.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -87,7 +89,7 @@ private:
     /// In memory where there is such a place; who names a folder for temporary files means it.
     static QString base()
     {
-        const QString memory = QStringLiteral("/dev/shm");
+        const QString memory = memoryFolder();
         const bool isNamed = qEnvironmentVariableIsSet("TMPDIR");
         return !isNamed && QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
     }

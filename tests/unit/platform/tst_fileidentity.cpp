@@ -105,6 +105,19 @@ private slots:
         QCOMPARE(link->kind, FileIdentity::Kind::Link);
     }
 
+    void behindADotOrSeparatorLinksAreFollowed()
+    {
+        QVERIFY(QDir().mkdir(u"folder"_s));
+        const auto there = fileIdentity(folder->path(u"folder"_s));
+        QVERIFY(QFile::link(folder->path(u"folder"_s), folder->path(u"link"_s)));
+        for (const QString &path : {u"folder/"_s, u"folder/."_s, u"link/"_s, u"link/."_s}) {
+            const auto seen = fileIdentity(folder->path(path));
+            QVERIFY2(seen, qPrintable(path));
+            QCOMPARE(seen->kind, FileIdentity::Kind::Folder);
+            QVERIFY(seen->isSameFile(*there));
+        }
+    }
+
 private:
     std::unique_ptr<TestFolder> folder;
 };

@@ -6,7 +6,10 @@
 #include "run/disk.h"
 #include "run/diskview.h"
 
+#include "namesofthesystem.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QMap>
 
 /// A disk in memory, whose file systems are what a test wants them to be. Names that are one name there are
@@ -30,16 +33,23 @@ public:
         int timesAsked = 0;
     };
 
-    /// By their paths.
+    /// By their full paths, which have a drive on Windows.
     mutable QMap<QString, Folder> folders;
 
     Folder &addFolder(const QString &path)
     {
-        Folder &folder = folders[path];
+        Folder &folder = folderAt(path);
         folder.traits.volume = 1;
         folder.traits.number = ++lastNumber;
         return folder;
     }
+    void addFolderLikeTheSystems(const QString &path)
+    {
+        FolderTraits &traits = addFolder(path).traits;
+        traits.names = namesOfTheSystem;
+        traits.lengthUnit = lengthsOfTheSystem;
+    }
+    Folder &folderAt(const QString &path) { return folders[QFileInfo(path).absoluteFilePath()]; }
     void add(const QString &path, FileIdentity::Kind kind = FileIdentity::Kind::File)
     {
         const FilePath file = FilePath::of(path);

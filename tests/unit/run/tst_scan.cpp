@@ -3,7 +3,10 @@
 
 #include "platform/pathlength.h"
 #include "run/scan.h"
+#include "run/spelling.h"
 #include "support/temptree.h"
+
+#include "namesofthesystem.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
@@ -127,8 +130,10 @@ private slots:
         for (const QString &folder : {u""_s, u"sub/"_s, u"sub/deep/"_s, u".hidden/"_s, u"a.txt.d/"_s}) {
             for (const QString &name :
                  {u"a.txt"_s, u"a.jpg"_s, u"B.JPG"_s, u"c.png"_s, u" d.png"_s, u"no dot"_s, u".dot.txt"_s,
-                  u"[.txt"_s, u"(a).+t{1}$"_s, u"line\nfeed.txt"_s, u"\u65e5.txt"_s, u"ends."_s})
-                tree->addFile(folder + name);
+                  u"[.txt"_s, u"(a).+t{1}$"_s, u"line\nfeed.txt"_s, u"\u65e5.txt"_s, u"ends."_s}) {
+                if (namesOfTheSystem == FolderTraits::Names::Any || !hasForbiddenCharacter(name))
+                    tree->addFile(folder + name);
+            }
         }
         tree->addFolder(u"empty.txt"_s);
         tree->addLink(u"link.txt"_s, tree->path(u"a.txt"_s));

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "run/spelling.h"
 #include "support/journalfiles.h"
+
+#include "namesofthesystem.h"
 
 #include <QTest>
 
@@ -165,12 +168,14 @@ private slots:
         const QStringList odd = {u"a\nb"_s, u"\"q\\"_s, u"\u202Egpj"_s, u"🎉"_s, u"\x7f"_s, u"\uFEFFa"_s};
         QList<std::pair<QString, QString>> renames;
         for (const QString &name : odd) {
+            if (namesOfTheSystem != FolderTraits::Names::Any && hasForbiddenCharacter(name))
+                continue;
             files->tree.addFile(name);
             renames.append({name, name + name});
         }
         const QStringList before = names();
         const QString run = files->run(renames);
-        QCOMPARE(files->undo(run), QStringList(odd.size(), u"renamed"_s));
+        QCOMPARE(files->undo(run), QStringList(renames.size(), u"renamed"_s));
         QCOMPARE(names(), before);
     }
 
