@@ -13,7 +13,7 @@
 struct ExplorerEntry
 {
     QString name;
-    QCollatorSortKey key;
+    SortKey key;
     bool isFolder = false;
 
     friend bool operator==(const ExplorerEntry &left, const ExplorerEntry &right)

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/sortkey.h"
+
 #include <QCollator>
 #include <QLocale>
 #include <QString>
@@ -21,8 +23,8 @@ public:
     explicit NaturalOrder(const QLocale &locale = QLocale::system().collation());
 
     /// A name's place in the order: what compares below another comes first. "a1" and "a01" have the same
-    /// one.
-    [[nodiscard]] QCollatorSortKey key(const QString &name) const { return collator.sortKey(name); }
+    /// one; on Windows, whose order is the system's, the zero comes first.
+    [[nodiscard]] SortKey key(const QString &name) const { return sortKey(collator, name); }
 
 private:
     QCollator collator;

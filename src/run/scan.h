@@ -41,7 +41,7 @@ public:
 private:
     struct Entry
     {
-        QCollatorSortKey key;
+        SortKey key;
         QString path;
         bool operator<(const Entry &other) const;
     };

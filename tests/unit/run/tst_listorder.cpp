@@ -16,7 +16,7 @@ class ListOrder : public QObject
 private:
     struct Name
     {
-        QCollatorSortKey key;
+        SortKey key;
         QString name;
         bool operator<(const Name &other) const { return key.compare(other.key) < 0; }
     };
@@ -43,6 +43,11 @@ private slots:
             << u"en_US"_s << QStringList{u"a1"_s, u"a002"_s, u"a3"_s};
         QTest::newRow("numbers beyond 64 bits")
             << u"en_US"_s << QStringList{QString(30, u'9'), u'1' + QString(30, u'0')};
+        QTest::newRow("numbers of one, two and three digits")
+            << u"en_US"_s << QStringList{u"0.txt"_s, u"9.txt"_s, u"20.txt"_s, u"100.txt"_s};
+        QTest::newRow("nothing before anything") << u"en_US"_s << QStringList{u""_s, u" "_s, u"a"_s};
+        QTest::newRow("long before longer")
+            << u"en_US"_s << QStringList{QString(254, u'x') + u'1', QString(254, u'x') + u'2'};
         QTest::newRow("several numbers")
             << u"en_US"_s << QStringList{u"2 of 9"_s, u"2 of 10"_s, u"10 of 9"_s};
         QTest::newRow("German umlauts") << u"de_DE"_s << QStringList{u"a"_s, u"\u00e4"_s, u"b"_s, u"z"_s};
