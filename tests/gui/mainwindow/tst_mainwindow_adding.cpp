@@ -5,6 +5,8 @@
 #include "support/drivenwindow.h"
 #include "support/duringevents.h"
 
+#include "deepfolders.h"
+
 #include <QChildEvent>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -324,7 +326,7 @@ private slots:
         QVERIFY(QDir::setCurrent(tree->path(u"folder"_s)));
         QString deepest = tree->path(u"folder"_s);
         // In relative steps: no call takes the whole path.
-        while (!isPathTooLong(deepest) && QDir().mkdir(name) && QDir::setCurrent(name))
+        while (!isPathTooLong(deepest) && makeAndEnter(name))
             deepest += u'/' + name;
         QVERIFY(QDir::setCurrent(before));
         static QStringList messages;

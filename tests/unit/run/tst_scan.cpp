@@ -6,6 +6,7 @@
 #include "run/spelling.h"
 #include "support/temptree.h"
 
+#include "deepfolders.h"
 #include "namesofthesystem.h"
 
 #include <QElapsedTimer>
@@ -177,7 +178,7 @@ private slots:
         QVERIFY(QDir::setCurrent(tree->path()));
         // In relative steps: no call takes the whole path.
         QString deepest = tree->path();
-        while (!isPathTooLong(deepest) && QDir().mkdir(name) && QDir::setCurrent(name))
+        while (!isPathTooLong(deepest) && makeAndEnter(name))
             deepest += u'/' + name;
         QVERIFY(QDir::setCurrent(before));
         Scan scan(tree->path(), {u"*"_s});
@@ -196,7 +197,7 @@ private slots:
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(tree->path()));
         QString deepest = tree->path();
-        while (!isPathTooLong(deepest + u'/' + name) && QDir().mkdir(name) && QDir::setCurrent(name))
+        while (!isPathTooLong(deepest + u'/' + name) && makeAndEnter(name))
             deepest += u'/' + name;
         // No call takes the whole path.
         const QString fileName = QString(240, u'f') + u".txt"_s;
