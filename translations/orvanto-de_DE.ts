@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Fotos nummerieren</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Leerzeichen statt Unterstriche</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Groß- und Kleinschreibung ordnen</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Ohne Kamerakürzel</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Datum als 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Titelnummern zweistellig</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>„Titel - Interpret“ statt „Interpret - Titel“</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>Regel %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>muss ein Objekt sein</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>Zeile %1 ist kein JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>muss ein Text von höchstens %1 Zeichen sein</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>muss ein Name ohne Leerzeichen am Anfang und Ende sein</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>muss eine ganze Zahl von %1 bis %2 sein</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>muss true oder false sein</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>muss %1 sein</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>muss eines von diesen sein: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>muss eine Liste von höchstens %1 Regeln sein</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>eine neuere Version des Programms hat diese Datei geschrieben</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>dieses Feld ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>ein anderer Regelsatz hat diesen Namen</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>die Datei mit dem alten Namen ließ sich nicht entfernen</translation>
     </message>
 </context>
 <context>

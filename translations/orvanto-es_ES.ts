@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Numerar fotos</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Espacios en lugar de guiones bajos</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Ordenar mayúsculas y minúsculas</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Sin prefijos de cámara</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Fechas como 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Números de pista con dos cifras</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>«Título - Artista» en lugar de «Artista - Título»</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>regla %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>debe ser un objeto</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>demasiado grande</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>la línea %1 no es JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>debe ser un texto de %1 caracteres como máximo</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>debe ser un nombre sin espacios al principio ni al final</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>debe ser un número entero de %1 a %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>debe ser true o false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>debe ser %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>debe ser uno de estos valores: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>debe ser una lista de %1 reglas como máximo</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>este archivo lo escribió una versión más reciente del programa</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>este campo no se conoce</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>falta</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>otro conjunto de reglas tiene este nombre</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>no se pudo eliminar el archivo con el nombre anterior</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Numéroter les photos</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Espaces à la place des tirets bas</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Harmoniser majuscules et minuscules</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Sans préfixes d’appareil photo</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Dates sous la forme 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Numéros de piste à deux chiffres</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>«&#xa0;Titre - Artiste&#xa0;» au lieu de «&#xa0;Artiste - Titre&#xa0;»</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>règle %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>doit être un objet</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>trop volumineux</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>la ligne %1 n’est pas du JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>doit être un texte d’au plus %1 caractères</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>doit être un nom, sans espaces au début ni à la fin</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>doit être un nombre entier de %1 à %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>doit être true ou false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>doit être %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>doit être l’une de ces valeurs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>doit être une liste d’au plus %1 règles</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>ce fichier a été écrit par une version plus récente du programme</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>ce champ est inconnu</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>est absent</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>un autre jeu de règles porte ce nom</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>le fichier portant l’ancien nom n’a pas pu être supprimé</translation>
     </message>
 </context>
 <context>

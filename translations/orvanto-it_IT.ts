@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Numera le foto</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Spazi al posto dei trattini bassi</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Uniforma maiuscole e minuscole</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Senza prefissi della fotocamera</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Date come 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Numeri di traccia a due cifre</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>&quot;Titolo - Artista&quot; al posto di &quot;Artista - Titolo&quot;</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Seleziona tutto</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>regola %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>deve essere un oggetto</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>troppo grande</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>la riga %1 non è JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>deve essere un testo di al massimo %1 caratteri</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>deve essere un nome senza spazi all’inizio e alla fine</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>deve essere un numero intero da %1 a %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>deve essere true o false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>deve essere %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>deve essere uno di questi valori: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>deve essere un elenco di al massimo %1 regole</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>questo file è stato scritto da una versione più recente del programma</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>questo campo non è riconosciuto</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>manca</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>non è un file</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>un altro insieme di regole ha questo nome</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>impossibile rimuovere il file con il vecchio nome</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>写真</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>写真に番号を付ける</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>アンダースコアを空白に</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>大文字と小文字を整える</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>カメラの接頭辞を取り除く</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>日付を 2024-01-31 の形に</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>トラック番号を2桁に</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>「アーティスト - タイトル」を「タイトル - アーティスト」に</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>ルール %1、%2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>オブジェクトでなければなりません</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>大きすぎます</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>%1 行目は JSON ではありません</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>%1 文字以内のテキストでなければなりません</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>前後に空白のない名前でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>true または false でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>%1 でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>次のいずれかでなければなりません: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>%1 個以内のルールのリストでなければなりません</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>このファイルは新しいバージョンのプログラムで作成されました</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>このようなフィールドはありません</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>がありません</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>この名前のルールセットがすでにあります</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>古い名前のファイルを削除できませんでした</translation>
     </message>
 </context>
 <context>

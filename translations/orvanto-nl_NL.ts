@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Foto’s nummeren</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Spaties in plaats van underscores</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Hoofdletters en kleine letters opschonen</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Zonder cameravoorvoegsels</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Datums als 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Tracknummers met twee cijfers</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>&quot;Titel - Artiest&quot; in plaats van &quot;Artiest - Titel&quot;</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Alles selecteren</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>regel %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>moet een object zijn</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>te groot</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>regel %1 van het bestand is geen JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>moet een tekst van hoogstens %1 tekens zijn</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>moet een naam zijn zonder spaties aan het begin of einde</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>moet een geheel getal van %1 tot en met %2 zijn</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>moet true of false zijn</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>moet %1 zijn</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>moet een van deze zijn: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>moet een lijst van hoogstens %1 regels zijn</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>dit bestand is door een nieuwere versie van het programma geschreven</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>dit veld is niet bekend</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>ontbreekt</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>is geen bestand</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>een andere regelset heeft deze naam</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>het bestand met de oude naam kon niet worden verwijderd</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Zdjęcie</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Ponumeruj zdjęcia</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Spacje zamiast podkreśleń</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Uporządkuj wielkie i małe litery</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Bez przedrostków aparatu</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Daty jako 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Dwucyfrowe numery utworów</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>„Tytuł - Wykonawca” zamiast „Wykonawca - Tytuł”</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Zaznacz wszystko</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>reguła %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>musi być obiektem</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>za duże</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>wiersz %1 nie jest poprawnym JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>musi być tekstem o długości najwyżej %1 znaków</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>musi być nazwą bez spacji na początku i na końcu</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>musi być liczbą całkowitą od %1 do %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>musi być true lub false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>musi być %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>musi być jedną z wartości: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>musi być listą najwyżej %1 reguł</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>ten plik zapisała nowsza wersja programu</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>nieznane pole</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>brakuje tego pola</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>to nie jest plik</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>inny zestaw reguł ma tę nazwę</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>nie udało się usunąć pliku ze starą nazwą</translation>
     </message>
 </context>
 <context>

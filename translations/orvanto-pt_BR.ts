@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Numerar fotos</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Espaços no lugar de sublinhados</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Arrumar maiúsculas e minúsculas</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Sem prefixos da câmera</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Datas como 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Números de faixa com dois dígitos</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>&quot;Título - Artista&quot; no lugar de &quot;Artista - Título&quot;</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>regra %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>deve ser um objeto</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>grande demais</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>a linha %1 não é JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>deve ser um texto de no máximo %1 caracteres</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>deve ser um nome sem espaços no início nem no fim</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>deve ser um número inteiro de %1 a %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>deve ser true ou false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>deve ser %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>deve ser um destes valores: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>deve ser uma lista de no máximo %1 regras</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>este arquivo foi gravado por uma versão mais recente do programa</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>este campo não é conhecido</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>está faltando</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>não é um arquivo</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>outro conjunto de regras tem este nome</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>não foi possível remover o arquivo com o nome antigo</translation>
     </message>
 </context>
 <context>

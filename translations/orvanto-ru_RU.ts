@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Фото</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Пронумеровать фотографии</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Пробелы вместо подчёркиваний</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Упорядочить прописные и строчные буквы</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Без приставок камеры</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Даты в виде 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Двузначные номера дорожек</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>«Название - Исполнитель» вместо «Исполнитель - Название»</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Выделить всё</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>правило %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>должно быть объектом</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>слишком большой файл</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>строка %1 — не JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>должно быть текстом длиной не более %1 символов</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>должно быть именем без пробелов в начале и в конце</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>должно быть целым числом от %1 до %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>должно быть true или false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>должно быть %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>должно быть одним из значений: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>должно быть списком не более чем из %1 правил</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>этот файл записан более новой версией программы</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>такое поле неизвестно</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>отсутствует</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>это не файл</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>другой набор правил носит это имя</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>не удалось удалить файл со старым именем</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Fotoğraf</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Fotoğrafları numaralandır</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Alt çizgi yerine boşluk</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Büyük ve küçük harfleri düzenle</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Kamera ön ekleri olmadan</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Tarihler 2024-01-31 biçiminde</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>İki basamaklı parça numaraları</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>&quot;Sanatçı - Parça&quot; yerine &quot;Parça - Sanatçı&quot;</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Tümünü Seç</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>kural %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>bir nesne olmalıdır</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>çok büyük</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>%1. satır JSON değil</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>en çok %1 karakterlik bir metin olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>başında ve sonunda boşluk olmayan bir ad olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>%1 ile %2 arasında bir tam sayı olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>true ya da false olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>%1 olmalıdır</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>şunlardan biri olmalıdır: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>en çok %1 kurallık bir liste olmalıdır</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>bu dosyayı programın daha yeni bir sürümü yazmış</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>böyle bir alan bilinmiyor</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>eksik</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>bir dosya değil</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>başka bir kural kümesinin adı bu</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>eski adlı dosya kaldırılamadı</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>Фото</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>Пронумерувати фотографії</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>Пробіли замість підкреслень</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>Упорядкувати великі й малі літери</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>Без префіксів камери</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>Дати у вигляді 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>Двозначні номери доріжок</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>«Назва - Виконавець» замість «Виконавець - Назва»</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>Вибрати все</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>правило %1, %2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>має бути об’єктом</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>завеликий файл</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>рядок %1 — не JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>має бути текстом завдовжки не більше %1 символів</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>має бути назвою без пробілів на початку й у кінці</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>має бути цілим числом від %1 до %2</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>має бути true або false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>має бути %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>має бути одним зі значень: %1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>має бути списком не більше ніж із %1 правил</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>цей файл записано новішою версією програми</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>таке поле невідоме</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>бракує цього поля</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>це не файл</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>інший набір правил має цю назву</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>не вдалося видалити файл зі старою назвою</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,41 @@
     </message>
 </context>
 <context>
+    <name>ExampleRules</name>
+    <message>
+        <source>Photo</source>
+        <translation>照片</translation>
+    </message>
+    <message>
+        <source>Number photos</source>
+        <translation>为照片编号</translation>
+    </message>
+    <message>
+        <source>Blanks for underscores</source>
+        <translation>将下划线替换为空格</translation>
+    </message>
+    <message>
+        <source>Tidy upper and lower case</source>
+        <translation>整理大小写</translation>
+    </message>
+    <message>
+        <source>Without camera prefixes</source>
+        <translation>去掉相机前缀</translation>
+    </message>
+    <message>
+        <source>Dates as 2024-01-31</source>
+        <translation>日期写成 2024-01-31</translation>
+    </message>
+    <message>
+        <source>Track numbers with two digits</source>
+        <translation>两位数的曲目编号</translation>
+    </message>
+    <message>
+        <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
+        <translation>将“艺术家 - 标题”改为“标题 - 艺术家”</translation>
+    </message>
+</context>
+<context>
     <name>ExplorerModel</name>
     <message>
         <source>Name</source>
@@ -718,6 +753,77 @@
     <message>
         <source>Select All</source>
         <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSets</name>
+    <message>
+        <source>rule %1, %2</source>
+        <translation>规则 %1，%2</translation>
+    </message>
+    <message>
+        <source>must be an object</source>
+        <translation>必须是对象</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>太大</translation>
+    </message>
+    <message>
+        <source>line %1 is no JSON</source>
+        <translation>第 %1 行不是 JSON</translation>
+    </message>
+    <message>
+        <source>must be a text of at most %1 characters</source>
+        <translation>必须是不超过 %1 个字符的文本</translation>
+    </message>
+    <message>
+        <source>must be a name, without blanks at its ends</source>
+        <translation>必须是首尾没有空格的名称</translation>
+    </message>
+    <message>
+        <source>must be a whole number from %1 to %2</source>
+        <translation>必须是 %1 到 %2 之间的整数</translation>
+    </message>
+    <message>
+        <source>must be true or false</source>
+        <translation>必须是 true 或 false</translation>
+    </message>
+    <message>
+        <source>must be %1</source>
+        <translation>必须是 %1</translation>
+    </message>
+    <message>
+        <source>must be one of %1</source>
+        <translation>必须是以下之一：%1</translation>
+    </message>
+    <message>
+        <source>must be a list of at most %1 rules</source>
+        <translation>必须是不超过 %1 条规则的列表</translation>
+    </message>
+    <message>
+        <source>a newer version of the program wrote this file</source>
+        <translation>此文件由更新版本的程序写入</translation>
+    </message>
+    <message>
+        <source>no such field is known</source>
+        <translation>没有这样的字段</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>不是文件</translation>
+    </message>
+    <message>
+        <source>another rule set has this name</source>
+        <translation>另一个规则集已使用此名称</translation>
+    </message>
+    <message>
+        <source>the file with the old name could not be removed</source>
+        <translation>无法删除使用旧名称的文件</translation>
     </message>
 </context>
 <context>

@@ -18,7 +18,7 @@ LANGUAGES = "de_DE es_ES fr_FR it_IT ja_JP nl_NL pl_PL pt_BR ru_RU tr_TR uk_UA z
 SAME = {
     "de_DE": {"Info", "Plugins", "Debug", "Name", "OK", "Position", "Text"},
     "es_ES": {"General", "Total", "Ctrl"},
-    "fr_FR": {"Code", "Message", "Total", "OK", "Ctrl", "Position"},
+    "fr_FR": {"Photo", "Code", "Message", "Total", "OK", "Ctrl", "Position"},
     "it_IT": {"1 file", "Debug", "OK", "Ctrl"},
     "ja_JP": {"OK", "Ctrl", "Shift"},
     "nl_NL": {"Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
