@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Diese Werte an die Stelle der Regel setzen</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Die Regel lassen, wie sie ist</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsätze</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsätze</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Die aktiven Regeln unter einem Namen speichern und wieder aufnehmen</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Die Regeln wurden seitdem geändert.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Zuletzt verwendet</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Verwalten …</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Datei öffnen …</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsätze</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Die aktiven Regeln sind nicht gespeichert. Sollen sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Es gibt schon einen Regelsatz „%1“. Soll er ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Den Regelsatz „%1“ löschen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Regelsatz speichern</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Name des Regelsatzes</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Regelsatz öffnen</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Aus %1 wurden keine Regeln geladen:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Der Regelsatz konnte nicht gespeichert werden:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Der Regelsatz konnte nicht gelöscht werden:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Der Regelsatz konnte nicht umbenannt werden:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

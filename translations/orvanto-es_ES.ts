@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Poner estos valores en lugar de la regla</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Dejar la regla como está</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de reglas</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renombrar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de reglas</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Guardar las reglas activas con un nombre y recuperarlas</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Las reglas han cambiado desde entonces.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Últimas usadas</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Administrar…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Abrir archivo…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Ejemplos</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de reglas</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Las reglas activas no están guardadas. ¿Reemplazarlas?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Ya existe un conjunto de reglas «%1». ¿Reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>¿Eliminar el conjunto de reglas «%1»?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Guardar conjunto de reglas</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Nombre del conjunto de reglas</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Abrir conjunto de reglas</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>No se cargó ninguna regla de %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>No se pudo guardar el conjunto de reglas:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>No se pudo eliminar el conjunto de reglas:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>No se pudo cambiar el nombre del conjunto de reglas:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Mettre ces valeurs à la place de la règle</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Laisser la règle telle quelle</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Jeux de règles</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Jeux de règles</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Enregistrer les règles actives sous un nom et les reprendre</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Les règles ont été modifiées depuis.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Dernières utilisées</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Enregistrer sous…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Gérer…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Ouvrir un fichier…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Exemples</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Jeux de règles</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Les règles actives ne sont pas enregistrées. Les remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Il existe déjà un jeu de règles «&#xa0;%1&#xa0;». Le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Supprimer le jeu de règles «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Enregistrer le jeu de règles</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Nom du jeu de règles</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Ouvrir un jeu de règles</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Aucune règle n’a été chargée depuis %1&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Le jeu de règles n’a pas pu être enregistré&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Le jeu de règles n’a pas pu être supprimé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Le jeu de règles n’a pas pu être renommé&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Applica</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Metti questi valori al posto della regola</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Lascia la regola com’è</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Insiemi di regole</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importa…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Esporta…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Insiemi di regole</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Salva le regole attive con un nome e riprendile</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Le regole sono state modificate da allora.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Ultime usate</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Salva con nome…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Gestisci…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Apri file…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Esempi</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Insiemi di regole</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Le regole attive non sono salvate. Sostituirle?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Esiste già un insieme di regole &quot;%1&quot;. Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Eliminare l’insieme di regole &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Salva insieme di regole</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Nome dell’insieme di regole</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Apri insieme di regole</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Nessuna regola caricata da %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Impossibile salvare l’insieme di regole:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Impossibile eliminare l’insieme di regole:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Impossibile rinominare l’insieme di regole:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

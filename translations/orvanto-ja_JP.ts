@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>ルールをこの設定に置き換える</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>ルールを変更せずに戻る</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>ルールセット</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>インポート…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>エクスポート…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>ルールセット</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>有効なルールに名前を付けて保存し、再び使う</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>その後ルールが変更されました。</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>前回使ったルール</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>名前を付けて保存…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>管理…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>ファイルを開く…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>例</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>ルールセット</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>有効なルールは保存されていません。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>ルールセット「%1」はすでにあります。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>ルールセット「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>ルールセットを保存</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>ルールセットの名前</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>ルールセットを開く</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>%1 からルールを読み込めませんでした:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>ルールセットを保存できませんでした:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>ルールセットを削除できませんでした:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>ルールセットの名前を変更できませんでした:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Deze waarden in de plaats van de regel zetten</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>De regel laten zoals hij is</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsets</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Hernoemen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importeren…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporteren…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsets</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>De actieve regels onder een naam opslaan en weer gebruiken</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>De regels zijn sindsdien gewijzigd.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Laatst gebruikt</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Opslaan als…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Beheren…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Bestand openen…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Voorbeelden</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Regelsets</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>De actieve regels zijn niet opgeslagen. Vervangen?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Vervangen</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Er is al een regelset &quot;%1&quot;. Vervangen?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>De regelset &quot;%1&quot; verwijderen?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Regelset opslaan</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Naam van de regelset</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Regelset openen</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Er zijn geen regels geladen uit %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>De regelset kon niet worden opgeslagen:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>De regelset kon niet worden verwijderd:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>De regelset kon niet worden hernoemd:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

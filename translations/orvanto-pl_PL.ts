@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Zastosuj</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Wstaw te wartości w miejsce reguły</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Pozostaw regułę bez zmian</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Zestawy reguł</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importuj…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Eksportuj…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Zestawy reguł</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Zapisz aktywne reguły pod nazwą i użyj ich ponownie</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Od tego czasu reguły się zmieniły.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Ostatnio używane</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Zapisz jako…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Zarządzaj…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Otwórz plik…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Przykłady</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Zestawy reguł</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Aktywne reguły nie są zapisane. Zastąpić je?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Zastąp</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Zestaw reguł „%1” już istnieje. Zastąpić go?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Usunąć zestaw reguł „%1”?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Zapisz zestaw reguł</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Nazwa zestawu reguł</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Otwórz zestaw reguł</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Nie wczytano reguł z pliku %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Nie udało się zapisać zestawu reguł:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Nie udało się usunąć zestawu reguł:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Nie udało się zmienić nazwy zestawu reguł:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

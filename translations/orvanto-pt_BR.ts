@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Colocar estes valores no lugar da regra</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Deixar a regra como está</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de regras</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renomear</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de regras</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Salvar as regras ativas com um nome e retomá-las</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>As regras foram alteradas desde então.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Últimas usadas</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Salvar como…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Gerenciar…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Abrir arquivo…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Exemplos</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Conjuntos de regras</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>As regras ativas não estão salvas. Substituí-las?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Já existe um conjunto de regras &quot;%1&quot;. Substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Excluir o conjunto de regras &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Salvar conjunto de regras</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Nome do conjunto de regras</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Abrir conjunto de regras</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Nenhuma regra foi carregada de %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Não foi possível salvar o conjunto de regras:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Não foi possível excluir o conjunto de regras:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Não foi possível renomear o conjunto de regras:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Uygula</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Kuralın yerine bu değerleri koy</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Kuralı olduğu gibi bırak</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Kural kümeleri</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Yeniden Adlandır</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>İçe Aktar…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Dışa Aktar…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Kural kümeleri</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Etkin kuralları bir adla kaydet ve yeniden kullan</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Kurallar o zamandan beri değiştirildi.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Son kullanılan</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Farklı Kaydet…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Yönet…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Dosya Aç…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Örnekler</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Kural kümeleri</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Etkin kurallar kaydedilmedi. Değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Değiştir</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>&quot;%1&quot; adlı bir kural kümesi zaten var. Değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>&quot;%1&quot; kural kümesi silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Kural kümesini kaydet</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Kural kümesinin adı</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Kural kümesi aç</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>%1 dosyasından kural yüklenmedi:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Kural kümesi kaydedilemedi:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Kural kümesi silinemedi:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Kural kümesi yeniden adlandırılamadı:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

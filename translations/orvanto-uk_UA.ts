@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>Застосувати</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>Поставити ці значення на місце правила</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>Залишити правило як є</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Набори правил</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Перейменувати</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Видалити</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Імпорт…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Експорт…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>Набори правил</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>Зберегти активні правила під назвою та використати їх знову</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>Відтоді правила змінилися.</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>Останні використані</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Зберегти</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Зберегти як…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>Керувати…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>Відкрити файл…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Приклади</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>Закрити</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>Набори правил</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>Активні правила не збережено. Замінити їх?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Замінити</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>Набір правил «%1» уже існує. Замінити його?</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>Видалити набір правил «%1»?</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Видалити</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>Зберегти набір правил</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>Назва набору правил</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Зберегти</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>Відкрити набір правил</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>Правила не завантажено з файлу %1:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>Не вдалося зберегти набір правил:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>Не вдалося видалити набір правил:</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>Не вдалося перейменувати набір правил:</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

@@ -756,6 +756,154 @@
     </message>
 </context>
 <context>
+    <name>RuleEdit</name>
+    <message>
+        <source>Apply</source>
+        <translation>应用</translation>
+    </message>
+    <message>
+        <source>Put these values in the place of the rule</source>
+        <translation>用这些值取代该规则</translation>
+    </message>
+    <message>
+        <source>Leave the rule as it is</source>
+        <translation>保持规则不变</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetDialog</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>规则集</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>导入…</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>导出…</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetMenu</name>
+    <message>
+        <source>Rule sets</source>
+        <translation>规则集</translation>
+    </message>
+    <message>
+        <source>Save the active rules under a name, and take them up again</source>
+        <translation>以名称保存已启用的规则，以便再次使用</translation>
+    </message>
+    <message>
+        <source>The rules were changed since.</source>
+        <translation>此后规则已更改。</translation>
+    </message>
+    <message>
+        <source>Last used</source>
+        <translation>上次使用</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>另存为…</translation>
+    </message>
+    <message>
+        <source>Manage…</source>
+        <translation>管理…</translation>
+    </message>
+    <message>
+        <source>Open file…</source>
+        <translation>打开文件…</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>示例</translation>
+    </message>
+</context>
+<context>
+    <name>RuleSetQuestions</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Rule sets</source>
+        <translation>规则集</translation>
+    </message>
+    <message>
+        <source>The active rules are not saved. Replace them?</source>
+        <translation>已启用的规则尚未保存。要替换它们吗？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
+        <translation>规则集“%1”已存在。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>Delete the rule set &quot;%1&quot;?</source>
+        <translation>要删除规则集“%1”吗？</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Save rule set</source>
+        <translation>保存规则集</translation>
+    </message>
+    <message>
+        <source>Name of the rule set</source>
+        <translation>规则集名称</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open rule set</source>
+        <translation>打开规则集</translation>
+    </message>
+    <message>
+        <source>No rules were loaded from %1:</source>
+        <translation>未能从 %1 载入规则：</translation>
+    </message>
+    <message>
+        <source>The rule set could not be saved:</source>
+        <translation>无法保存规则集：</translation>
+    </message>
+    <message>
+        <source>The rule set could not be deleted:</source>
+        <translation>无法删除规则集：</translation>
+    </message>
+    <message>
+        <source>The rule set could not be renamed:</source>
+        <translation>无法重命名规则集：</translation>
+    </message>
+</context>
+<context>
     <name>RuleSets</name>
     <message>
         <source>rule %1, %2</source>

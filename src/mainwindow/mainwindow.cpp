@@ -10,20 +10,27 @@
 #include "desktop/shell.h"
 #include "desktop/taskbar.h"
 #include "dialogs/dialogsettings.h"
+#include "mainwindow/activerules.h"
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/commandids.h"
+#include "mainwindow/editorlayout.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/forecastlabel.h"
-#include "mainwindow/logdelegate.h"
 #include "mainwindow/progressdialog.h"
+#include "mainwindow/ruleedit.h"
+#include "mainwindow/ruleexample.h"
+#include "mainwindow/rulekeys.h"
+#include "mainwindow/rulesetmenu.h"
+#include "mainwindow/ruleswitches.h"
+#include "mainwindow/ruletreedrag.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/takingback.h"
 #include "mainwindow/undobuttons.h"
+#include "mainwindow/wholetextdelegate.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
-#include "rules/ruledata.h"
 #include "ui_mainwindow.h"
 #include "update/versioncheck.h"
 
@@ -54,6 +61,7 @@ MainWindow::MainWindow(Qt::WindowFlags flags)
 {
     ui->setupUi(this);
     fates = std::make_unique<Fates>(*ui->listWidgetFiles, *ui->buttonPreview);
+    watchRules();
     ui->statusbar->addPermanentWidget(new ForecastLabel(*fates, *ui->listWidgetFiles));
     runHistory = new RunHistory(this);
 }
@@ -89,7 +97,7 @@ void MainWindow::initialize()
     createLogo();
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());
-    ui->tableWidgetLog->setItemDelegate(new LogDelegate(ui->tableWidgetLog));
+    ui->tableWidgetLog->setItemDelegate(new WholeTextDelegate(ui->tableWidgetLog));
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
     logTimer->setInterval(logTimerInterval);
@@ -138,6 +146,29 @@ void MainWindow::createRules()
     }
     qDeleteAll(factories);
     ui->stackedWidgetRules->adjustSize();
+    (new EditorLayout(ui->stackedWidgetRules))->orderTabs(ui->comboBoxRules, ui->buttonAddRule);
+    new RuleExample(ruleTypes, *fates, *ui);
+}
+
+void MainWindow::watchRules()
+{
+    activeRules = std::make_unique<ActiveRules>(ruleList);
+    const auto showNames = [this] {
+        if (ui->buttonPreview->isChecked())
+            on_buttonPreview_clicked();
+    };
+    connect(activeRules.get(), &ActiveRules::changed, this, [this, showNames] {
+        refreshRuleTree();
+        showNames();
+    });
+    connect(activeRules.get(), &ActiveRules::switched, this, showNames);
+    ui->treeWidgetRules->setItemDelegate(new WholeTextDelegate(ui->treeWidgetRules));
+    new RuleSwitches(*activeRules, ui->treeWidgetRules);
+    new RuleEdit(*activeRules, ruleTypes, *ui);
+    ruleSets = new RuleSetMenu(*activeRules, ruleTypes, *ui);
+    const auto *drag = new RuleTreeDrag(*activeRules, ui->treeWidgetRules);
+    connect(drag, &RuleTreeDrag::ruleSetsDropped, ruleSets, &RuleSetMenu::importFiles);
+    addRuleKeys(this, ui->treeWidgetRules, *activeRules);
 }
 
 void MainWindow::createMappers()

@@ -13,6 +13,7 @@
 #include <functional>
 #include <memory>
 
+class ActiveRules;
 class Explorer;
 class Fates;
 class ProgressDialog;
@@ -22,6 +23,7 @@ class QSignalMapper;
 class QTreeView;
 class RenameRun;
 class Rule;
+class RuleSetMenu;
 class RunHistory;
 class RunProgress;
 class TakingBack;
@@ -90,6 +92,7 @@ private:
     void createExplorer();
     void createUndo();
     void createRules();
+    void watchRules();
     void createMappers();
     void createLogo();
     void createTrayIcon();
@@ -131,7 +134,9 @@ private:
     std::unique_ptr<TakingBack> takingBack;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
-    QList<RuleData *> ruleList;  ///< in the order of application; owned
+    QList<RuleData *> ruleList;  ///< in the order of application; owned; changed by activeRules alone
+    std::unique_ptr<ActiveRules> activeRules;
+    RuleSetMenu *ruleSets = nullptr;
     QTimer *logTimer = nullptr;
     /// Null until there was a system tray.
     QSystemTrayIcon *trayIcon = nullptr;

@@ -4,12 +4,12 @@
 #include "mainwindow/mainwindow.h"
 
 #include "core/applog.h"
+#include "mainwindow/activerules.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/recordedrun.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/runprogress.h"
-#include "rules/rulechain.h"
 #include "run/renamerun.h"
 #include "ui_mainwindow.h"
 
@@ -17,10 +17,7 @@ using namespace Qt::StringLiterals;
 
 QString MainWindow::newName(const QString &name, int row) const
 {
-    QString result = name;
-    for (const RuleData *record : ruleList)
-        result = applyRuleChain(record, result, row);
-    return result;
+    return applyRules(activeRules->steps(), name, row);
 }
 
 void MainWindow::updateFileItem(int row)
@@ -36,12 +33,8 @@ void MainWindow::updateFileItem(int row)
 
 void MainWindow::on_buttonPreview_clicked()
 {
-    std::vector<RuleData> chain;
-    for (const RuleData *record : std::as_const(ruleList)) {
-        if (ui->buttonPreview->isChecked())
-            chain.push_back(*record);
-    }
-    const Fates::Refresh refresh(*fates, {std::move(chain), ui->checkBoxShowFullPath->isChecked()});
+    const RuleSteps steps = ui->buttonPreview->isChecked() ? activeRules->steps() : RuleSteps();
+    const Fates::Refresh refresh(*fates, {steps, ui->checkBoxShowFullPath->isChecked()});
     for (int row = 0; row < ui->listWidgetFiles->count(); ++row)
         updateFileItem(row);
 }

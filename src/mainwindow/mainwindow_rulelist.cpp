@@ -3,10 +3,10 @@
 
 #include "mainwindow/mainwindow.h"
 
+#include "mainwindow/activerules.h"
 #include "mainwindow/commandids.h"
+#include "mainwindow/ruleswitches.h"
 #include "rules/rule.h"
-#include "rules/rulechain.h"
-#include "rules/ruledata.h"
 #include "ui_mainwindow.h"
 
 void MainWindow::fillRuleComboBox()
@@ -31,12 +31,13 @@ void MainWindow::on_buttonAddRule_clicked()
 {
     const QWidget *editor = ui->stackedWidgetRules->currentWidget();
     const Rule *rule = ruleTypes.value(ui->stackedWidgetRules->currentIndex());
-    RuleData *record = rule ? rule->createData(editor) : nullptr;
+    std::unique_ptr<RuleData> record(rule ? rule->createData(editor) : nullptr);
     if (!record)
         return;
-    ruleList.append(record);
-    refreshRuleTree();
-    on_buttonPreview_clicked();
+    activeRules->insert(activeRules->count(), {std::move(record), {}});
+    // Deliberate: adding shows the rows anew while Preview is up, too.
+    if (!ui->buttonPreview->isChecked())
+        on_buttonPreview_clicked();
 }
 
 void MainWindow::refreshRuleTree()
@@ -44,8 +45,8 @@ void MainWindow::refreshRuleTree()
     QTreeWidget *tree = ui->treeWidgetRules;
     const int currentRow = tree->currentIndex().row();
     tree->clear();
-    for (const RuleData *record : std::as_const(ruleList))
-        tree->addTopLevelItem(new QTreeWidgetItem({ruleName(record), ruleDescription(record)}));
+    for (int row = 0; row < activeRules->count(); ++row)
+        tree->addTopLevelItem(createRuleItem(activeRules->record(row), activeRules->note(row)));
     if (currentRow >= 0 && currentRow < tree->topLevelItemCount())
         tree->setCurrentItem(tree->topLevelItem(currentRow), 0);
 }
@@ -58,34 +59,29 @@ void MainWindow::onClickedRuleList(int id)
     case RemoveRule:
         if (row < 0)
             return;
-        delete ruleList.takeAt(row);
+        activeRules->remove(row);
         if (row >= 1)
             --row;
         break;
     case MoveRuleUp:
         if (row < 1)
             return;
-        ruleList.swapItemsAt(row, row - 1);
+        activeRules->move(row, row - 1);
         --row;
         break;
     case MoveRuleDown:
-        if (row >= ruleList.size() - 1)
+        if (row >= activeRules->count() - 1)
             return;
-        // With no current row the first rule would be swapped with one before it.
         if (row < 0)
             return;
-        ruleList.swapItemsAt(row, row + 1);
+        activeRules->move(row, row + 1);
         ++row;
         break;
     case ClearRules:
-        qDeleteAll(ruleList);
-        ruleList.clear();
+        activeRules->clear();
         break;
     default:
         return;
     }
     tree->setCurrentItem(tree->topLevelItem(row), 0);
-    refreshRuleTree();
-    if (ui->buttonPreview->isChecked())
-        on_buttonPreview_clicked();
 }

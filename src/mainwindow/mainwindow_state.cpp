@@ -8,6 +8,7 @@
 #include "dialogs/dialognotice.h"
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/progressdialog.h"
+#include "mainwindow/rulesetmenu.h"
 #include "mainwindow/savedstate.h"
 #include "ui_mainwindow.h"
 
@@ -286,6 +287,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (!closesQuietly)
         requestSupport();
     saveWindowSettings();
+    ruleSets->keepLastUsed();
     event->accept();
     if (closed)
         closed();

@@ -3,8 +3,6 @@
 
 #include "mainwindow/rownames.h"
 
-#include "rules/rulechain.h"
-
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -20,8 +18,8 @@ RowText::RowText(const FilePath &file, const QString &name, bool showsFolder)
     nameAt = folder.size();
 }
 
-RowNames::RowNames(std::vector<RuleData> rules, bool withFolders)
-    : chain(std::move(rules))
+RowNames::RowNames(RuleSteps rules, bool withFolders)
+    : steps(std::move(rules))
     , showsFolder(withFolders)
 {
 }
@@ -29,8 +27,5 @@ RowNames::RowNames(std::vector<RuleData> rules, bool withFolders)
 RowText RowNames::textOf(const QString &path, int row) const
 {
     const FilePath file = filePaths.split(path);
-    QString name = file.name();
-    for (const RuleData &record : chain)
-        name = applyRuleChain(&record, name, row);
-    return {file, name, showsFolder};
+    return {file, applyRules(steps, file.name(), row), showsFolder};
 }

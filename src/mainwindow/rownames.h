@@ -3,10 +3,8 @@
 
 #pragma once
 
-#include "rules/ruledata.h"
+#include "rules/rulechain.h"
 #include "run/filepath.h"
-
-#include <vector>
 
 /// What a row shows.
 struct RowText
@@ -24,13 +22,13 @@ struct RowText
 class RowNames final
 {
 public:
-    RowNames(std::vector<RuleData> rules, bool withFolders);
+    RowNames(RuleSteps rules, bool withFolders);
 
     /// The row is its place in the list when it was refreshed.
     [[nodiscard]] RowText textOf(const QString &path, int row) const;
 
 private:
-    std::vector<RuleData> chain;
+    RuleSteps steps;
     bool showsFolder;
     mutable FilePaths filePaths;
 };

@@ -110,14 +110,17 @@ QString RuleSetFolder::save(const RuleSet &set) const
     return writeRuleSet(freePath(set.name), set);
 }
 
-QString RuleSetFolder::add(RuleSet set) const
+QString RuleSetFolder::add(RuleSet set, QString *path) const
 {
     const QString name = set.name;
     for (int number = 2; !find(set.name).isEmpty(); ++number) {
         const QString behind = u' ' + QString::number(number);
         set.name = name.left(mostCharactersOfSetName - behind.size()) + behind;
     }
-    return save(set);
+    const QString error = save(set);
+    if (path && error.isEmpty())
+        *path = find(set.name);
+    return error;
 }
 
 QString RuleSetFolder::rename(const Entry &entry, const QString &newName) const

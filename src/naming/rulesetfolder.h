@@ -40,8 +40,9 @@ public:
 
     /// In the place of the one of the same name, if there is one. The error is empty when it was saved.
     [[nodiscard]] QString save(const RuleSet &set) const;
-    /// Under its own name, or with a number behind it where that is in use: nothing is replaced.
-    [[nodiscard]] QString add(RuleSet set) const;
+    /// Under its own name, or with a number behind it where that is in use: nothing is replaced. The path is
+    /// that of its file then.
+    [[nodiscard]] QString add(RuleSet set, QString *path = nullptr) const;
     /// Does nothing but tell where another set has the name.
     [[nodiscard]] QString rename(const Entry &entry, const QString &newName) const;
     /// False where it could not be removed.

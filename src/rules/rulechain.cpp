@@ -32,6 +32,14 @@ QString applyRuleChain(const RuleData *data, const QString &name, int fileIndex)
     return data->rule ? data->rule->apply(data, name, fileIndex) : QString();
 }
 
+QString applyRules(const RuleSteps &steps, const QString &name, int fileIndex)
+{
+    QString result = name;
+    for (const RuleData &step : steps)
+        result = applyRuleChain(&step, result, fileIndex);
+    return result;
+}
+
 QString ruleName(const RuleData *data)
 {
     return data->rule ? data->rule->name() : QString();

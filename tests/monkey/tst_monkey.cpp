@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDirIterator>
 #include <QEventLoop>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QTest>
 #include <QTranslator>
@@ -129,6 +130,12 @@ private:
             ++actionsLeft;
             return;
         }
+        // It shows the files of the whole machine, which are no part of this.
+        if (auto *machine = qobject_cast<QFileDialog *>(target)) {
+            ++did[u"file dialogs"_s];
+            machine->reject();
+            return;
+        }
         if (!isWindow)
             ++did[QString::fromLatin1(target->metaObject()->className())];
         const int what = hands->below(100);
@@ -158,8 +165,26 @@ private:
             kinds->setCurrentIndex(hands->below(kinds->count()));
         else if (what < 19)
             window->get()->close();
+        else if (hands->chance(50))
+            changeRules();
         else
             window->click("buttonPreview");
+    }
+
+    /// Keys, the check box and a drag of the list of rules.
+    void changeRules()
+    {
+        QTreeWidget *rules = window->ruleTree();
+        rules->setFocus();
+        if (rules->topLevelItemCount() > 0)
+            rules->setCurrentItem(rules->topLevelItem(hands->below(rules->topLevelItemCount())));
+        ++did[u"changes of rules"_s];
+        static const QList<QKeyCombination> keys = {
+            Qt::ALT | Qt::Key_Up,           Qt::ALT | Qt::Key_Down,         Qt::CTRL | Qt::Key_D,
+            Qt::NoModifier | Qt::Key_F2,    Qt::NoModifier | Qt::Key_Space, Qt::NoModifier | Qt::Key_Escape,
+            Qt::NoModifier | Qt::Key_Delete};
+        const QKeyCombination pressed = keys.at(hands->below(int(keys.size())));
+        QTest::keyClick(rules, pressed.key(), pressed.keyboardModifiers());
     }
 
     /// Brings the user back to where nothing is open.
@@ -261,7 +286,7 @@ private slots:
             return;
         // A user who gets nowhere would prove nothing.
         for (const char *job : {"starts", "drops", "language switches", "looks at the files", "QMenu",
-                                "DialogSettings", "QMessageBox", "ProgressDialog"})
+                                "changes of rules", "DialogSettings", "QMessageBox", "ProgressDialog"})
             QVERIFY2(did.value(QString::fromLatin1(job)) > 1, job);
         QVERIFY2(!before.contains(u"IMG_4.JPG"_s), "no file was ever renamed");
     }

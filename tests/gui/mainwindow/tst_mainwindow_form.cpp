@@ -283,9 +283,10 @@ private slots:
                               u"groupBox_3"_s}));
         QCOMPARE(tabs->widget(0)->layout()->objectName(), u"verticalLayout_4"_s);
         QCOMPARE(itemNames(window->child<QHBoxLayout>("horizontalLayout_5")),
-                 QStringList({u"comboBoxRules"_s, u"-"_s}));
+                 QStringList({u"comboBoxRules"_s, u"-"_s, u"labelRuleExample"_s}));
         QCOMPARE(itemNames(window->child<QHBoxLayout>("horizontalLayout_3")),
-                 QStringList({u"buttonAddRule"_s, u"-"_s}));
+                 QStringList({u"buttonAddRule"_s, u"-"_s, u"buttonApplyRule"_s, u"buttonLeaveRule"_s,
+                              u"labelRuleSet"_s, u"buttonRuleSets"_s}));
 
         const auto *comboBox = window->child<QComboBox>("comboBoxRules");
         QCOMPARE(comboBox->minimumSize().width(), 140);

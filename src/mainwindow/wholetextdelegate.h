@@ -5,8 +5,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Shows the whole text of a log line that is too long for its column as a tool tip.
-class LogDelegate final : public QStyledItemDelegate
+/// Shows the whole text of a cell that is too narrow for it as a tool tip.
+class WholeTextDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
 

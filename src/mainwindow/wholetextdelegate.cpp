@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/logdelegate.h"
+#include "mainwindow/wholetextdelegate.h"
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -9,8 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
-bool LogDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
-                            const QModelIndex &index)
+bool WholeTextDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                                  const QStyleOptionViewItem &option, const QModelIndex &index)
 {
     if (event->type() != QEvent::ToolTip)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
