@@ -547,6 +547,25 @@
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>File %1</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
@@ -592,6 +611,154 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Chiude il pannello</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nuova cartella</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Apri</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Passa alla vista dettagliata</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Passa alla vista a elenco</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Crea nuova cartella</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crea una nuova cartella</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Vista dettagliata</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nome file:</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>File di tipo:</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Torna indietro</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vai avanti</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Vai alla cartella superiore</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Vista a elenco</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Elenco dei luoghi e dei segnalibri</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Cerca in:</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Cartella superiore</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostra i file &amp;nascosti</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra laterale</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Cartella:</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 esiste già.
+Sostituirlo?</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+File non trovato.
+Verificare il nome del file.</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostra </translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Data di modifica</translation>
     </message>
 </context>
 <context>
@@ -672,6 +839,22 @@
     <message>
         <source>Ignore</source>
         <translation>Ignora</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
     </message>
 </context>
 <context>

@@ -547,6 +547,25 @@
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-bestand</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
@@ -592,6 +611,154 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Sluit het paneel</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nieuwe map</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Openen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Hernoemen</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Opslaan</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle bestanden (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Terug</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Naar detailweergave gaan</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Naar lijstweergave gaan</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Nieuwe map maken</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Een nieuwe map maken</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Detailweergave</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Bestands&amp;naam:</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Bestanden van type:</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vooruit</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Teruggaan</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vooruitgaan</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Naar de bovenliggende map gaan</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Lijstweergave</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lijst met plaatsen en bladwijzers</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Zoeken in:</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Bovenliggende map</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Verborgen bestanden &amp;tonen</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Zijbalk</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Map:</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 bestaat al.
+Wilt u het vervangen?</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Het bestand is niet gevonden.
+Controleer de bestandsnaam.</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Toon </translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Gewijzigd op</translation>
     </message>
 </context>
 <context>
@@ -672,6 +839,22 @@
     <message>
         <source>Ignore</source>
         <translation>Negeren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nee</translation>
     </message>
 </context>
 <context>

@@ -547,6 +547,25 @@
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Sürücü</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 dosyası</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
@@ -592,6 +611,154 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Paneli kapatır</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Sil</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Yeni klasör</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Aç</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Y&amp;eniden adlandır</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Kaydet</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tüm dosyalar (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Ayrıntı görünümüne geç</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Liste görünümüne geç</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Yeni klasör oluştur</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Yeni bir klasör oluştur</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Ayrıntı görünümü</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dosyalar</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Dosya türü:</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Geri git</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>İleri git</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Üst klasöre git</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Liste görünümü</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Yerler ve yer imleri listesi</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Konum:</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Üst klasör</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>&amp;Gizli dosyaları göster</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Kenar çubuğu</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Klasör:</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 zaten var.
+Değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Dosya bulunamadı.
+Lütfen dosya adını denetleyin.</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Göster </translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Bilgisayar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tür</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Değiştirilme tarihi</translation>
     </message>
 </context>
 <context>
@@ -672,6 +839,22 @@
     <message>
         <source>Ignore</source>
         <translation>Yok Say</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Hayır</translation>
     </message>
 </context>
 <context>

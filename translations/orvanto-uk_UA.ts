@@ -547,6 +547,25 @@
     </message>
 </context>
 <context>
+    <name>QAbstractFileIconProvider</name>
+    <message>
+        <source>Drive</source>
+        <translation>Диск</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Файл %1</translation>
+    </message>
+</context>
+<context>
     <name>QAbstractSocket</name>
     <message>
         <source>Socket operation timed out</source>
@@ -592,6 +611,154 @@
     <message>
         <source>Closes the dock widget</source>
         <translation>Закриває панель</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Видалити</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Нова тека</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ві&amp;дкрити</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Перейменувати</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Зберегти</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Усі файли (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Перейти до докладного вигляду</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Перейти до вигляду списку</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Створити нову теку</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Створити нову теку</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Докладний вигляд</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Назва файлу:</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Файли</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Тип файлів:</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Вперед</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Перейти назад</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Перейти вперед</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Перейти до батьківської теки</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Вигляд списку</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Список місць і закладок</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Шукати в:</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Батьківська тека</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Показувати &amp;приховані файли</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Бічна панель</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Тека:</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 вже існує.
+Замінити файл?</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Файл не знайдено.
+Перевірте назву файлу.</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Показати </translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Computer</source>
+        <translation>Комп’ютер</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Назва</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Розмір</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Дата зміни</translation>
     </message>
 </context>
 <context>
@@ -672,6 +839,22 @@
     <message>
         <source>Ignore</source>
         <translation>Ігнорувати</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Скасувати</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Відкрити</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Зберегти</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Ні</translation>
     </message>
 </context>
 <context>

@@ -17,11 +17,11 @@ LANGUAGES = "de_DE es_ES fr_FR it_IT ja_JP nl_NL pl_PL pt_BR ru_RU tr_TR uk_UA z
 # Words that are the same in English and in the language. Keep it short: everything else must be translated.
 SAME = {
     "de_DE": {"Info", "Plugins", "Debug", "Name", "OK", "Position", "Text"},
-    "es_ES": {"General", "Total", "Ctrl"},
-    "fr_FR": {"Photo", "Code", "Message", "Total", "OK", "Ctrl", "Position"},
-    "it_IT": {"1 file", "Debug", "OK", "Ctrl"},
+    "es_ES": {"&No", "General", "Total", "Ctrl"},
+    "fr_FR": {"Type", "Photo", "Code", "Message", "Total", "OK", "Ctrl", "Position"},
+    "it_IT": {"Computer", "File", "&No", "1 file", "Debug", "OK", "Ctrl"},
     "ja_JP": {"OK", "Ctrl", "Shift"},
-    "nl_NL": {"Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
+    "nl_NL": {"Type", "Computer", "Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
     "pl_PL": {"Folder", "OK", "Ctrl", "Shift"},
     "pt_BR": {"Plugins", "Total", "OK", "Ctrl", "Shift"},
     "ru_RU": {"Ctrl", "Shift"},

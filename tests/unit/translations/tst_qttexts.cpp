@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "support/httpserver.h"
+#include "support/temptree.h"
 
 #include <QAbstractButton>
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -18,6 +20,7 @@
 #include <QTextBrowser>
 #include <QTimer>
 #include <QTranslator>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -42,11 +45,18 @@ public:
     mutable QStringList missing;
 
 private:
+    /// The keys of the file dialog's buttons, which show in none of its texts.
+    static bool isKey(const QLatin1StringView context, const QLatin1StringView source)
+    {
+        const bool isShown = source == "Ctrl"_L1 || source == "Shift"_L1;
+        return (context == "QShortcut"_L1 && !isShown) || source.startsWith("Alt+"_L1);
+    }
     static bool isSeen(const QLatin1StringView context, const QLatin1StringView source)
     {
         // The plus sign of "Ctrl+C" and the direction of reading are fine as they are; what the socket engine
         // says is replaced by the HTTP layer.
-        return context != "QNativeSocketEngine"_L1 && source != "+"_L1 && source != "QT_LAYOUT_DIRECTION"_L1;
+        return context != "QNativeSocketEngine"_L1 && source != "+"_L1 &&
+               source != "QT_LAYOUT_DIRECTION"_L1 && !isKey(context, source);
     }
 };
 
@@ -102,6 +112,8 @@ private slots:
     void scrollBar();
     void messageBox();
     void dockButtons();
+    void fileDialog_data();
+    void fileDialog();
     void connectionRefused();
     void connectionClosed();
 };
@@ -116,6 +128,7 @@ void TestQtTexts::init()
 void TestQtTexts::cleanup()
 {
     QCoreApplication::removeTranslator(&german);
+    german.missing.removeDuplicates();
     QVERIFY2(german.missing.isEmpty(), qPrintable(german.missing.join(u'\n')));
 }
 
@@ -208,6 +221,40 @@ void TestQtTexts::dockButtons()
     const auto *closeButton = dock.findChild<QAbstractButton *>(u"qt_dockwidget_closebutton"_s);
     QVERIFY(closeButton);
     QCOMPARE(closeButton->accessibleName(), u"Schließen"_s);
+}
+
+void TestQtTexts::fileDialog_data()
+{
+    QTest::addColumn<QFileDialog::AcceptMode>("mode");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("open") << QFileDialog::AcceptOpen << u"not there"_s;
+    QTest::newRow("save") << QFileDialog::AcceptSave << u"there"_s;
+}
+
+void TestQtTexts::fileDialog()
+{
+    QFETCH(const QFileDialog::AcceptMode, mode);
+    QFETCH(const QString, name);
+    const TestFolder folder;
+    folder.addFile(u"there"_s);
+    QFileDialog dialog(nullptr, u"Title"_s, folder.path());
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
+    dialog.setAcceptMode(mode);
+    dialog.setViewMode(QFileDialog::Detail);
+    dialog.show();
+    const auto *tree = dialog.findChild<QTreeView *>(u"treeView"_s);
+    QTRY_COMPARE(tree->model()->rowCount(tree->rootIndex()), 1);
+    QVERIFY(contextMenuTexts(tree->viewport()).contains(u"&Versteckte Dateien anzeigen"_s));
+    QCOMPARE(tree->model()->headerData(1, Qt::Horizontal).toString(), u"Größe"_s);
+    // A question or a message, in a loop of its own.
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            box->reject();
+    });
+    timer.start(1);
+    dialog.findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(name);
+    QMetaObject::invokeMethod(&dialog, "accept");
 }
 
 void TestQtTexts::connectionRefused()
