@@ -70,6 +70,11 @@ foreach(size IN ITEMS 16 24 32 48 64 128 256)
 endforeach()
 install(FILES "${PROJECT_SOURCE_DIR}/resources/svg/app/orvanto.svg" DESTINATION "${icons}/scalable/apps")
 
+# What desktops call a file of a rule set, and how they show it.
+install(FILES "${templates}/orvanto-rules.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages")
+install(FILES "${PROJECT_SOURCE_DIR}/resources/svg/app/rules.svg"
+    DESTINATION "${icons}/scalable/mimetypes" RENAME application-x-orvanto-rules.svg)
+
 # orvanto_compressed(file name): builds install/<name>.gz, the same bytes every time.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 function(orvanto_compressed file name)
