@@ -164,8 +164,9 @@ void MainWindow::watchRules()
     connect(activeRules.get(), &ActiveRules::switched, this, showNames);
     ui->treeWidgetRules->setItemDelegate(new WholeTextDelegate(ui->treeWidgetRules));
     new RuleSwitches(*activeRules, ui->treeWidgetRules);
-    new RuleEdit(*activeRules, ruleTypes, *ui);
+    const auto *edit = new RuleEdit(*activeRules, ruleTypes, *ui);
     ruleSets = new RuleSetMenu(*activeRules, ruleTypes, *ui);
+    connect(edit, &RuleEdit::editingChanged, ruleSets, &RuleSetMenu::setHidden);
     const auto *drag = new RuleTreeDrag(*activeRules, ui->treeWidgetRules);
     connect(drag, &RuleTreeDrag::ruleSetsDropped, ruleSets, &RuleSetMenu::importFiles);
     addRuleKeys(this, ui->treeWidgetRules, *activeRules);

@@ -143,6 +143,7 @@ void RuleEdit::setEditing(bool isEditing)
     applyButton->setVisible(isEditing);
     leaveButton->setVisible(isEditing);
     leaveKey->setEnabled(isEditing);
+    emit editingChanged(isEditing);
 }
 
 void RuleEdit::followRules()

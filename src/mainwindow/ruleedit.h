@@ -28,6 +28,10 @@ public:
     /// The kinds by the page of their editor.
     RuleEdit(ActiveRules &ofRules, const QMap<int, Rule *> &ofKinds, const Ui::MainWindow &ofWindow);
 
+signals:
+    /// It began or ended.
+    void editingChanged(bool isEditing);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

@@ -196,6 +196,12 @@ void RuleSetMenu::openFile()
         chooseFile(paths.constFirst(), paths.constFirst(), LoadedRuleSet::Kept::Yes);
 }
 
+void RuleSetMenu::setHidden(bool isHidden)
+{
+    button->setHidden(isHidden);
+    label->setHidden(isHidden);
+}
+
 void RuleSetMenu::importFiles(const QStringList &paths)
 {
     const QStringList added = RuleSetQuestions::importFiles(window(), folder, paths);

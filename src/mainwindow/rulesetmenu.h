@@ -24,6 +24,8 @@ public:
     /// The kinds by their place in the catalogue.
     RuleSetMenu(ActiveRules &ofRules, const QMap<int, Rule *> &ofKinds, const Ui::MainWindow &ofWindow);
 
+    /// The row has no room for it while a rule is edited.
+    void setHidden(bool isHidden);
     /// Makes saved sets of them. The rules of a single one become the active ones.
     void importFiles(const QStringList &paths);
     /// To be called at the end: the active rules are offered at the next start.

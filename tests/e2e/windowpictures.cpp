@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 //
-// windowpictures FOLDER [forecast]: starts the program as its main() does, shows one window after the other,
-// and saves their pictures in the folder, with one picture of what the desktop's own colours look like. With
-// "forecast" only what the window says of rows that are not renamed; texts that are cut off end it with a
-// message.
+// windowpictures FOLDER [forecast | rules]: starts the program as its main() does, shows one window after the
+// other, and saves their pictures in the folder, with one picture of what the desktop's own colours look
+// like. With "forecast" only what the window says of rows that are not renamed, with "rules" a chain of rules
+// in somebody's hands; texts that are cut off end either with a message.
 
 #include "app/application.h"
 #include "dialogs/dialognotice.h"
@@ -29,6 +29,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -98,7 +99,7 @@ void show(QWidget *window, const QString &name)
 }
 
 template <typename Widget>
-Widget *child(const QWidget *window, const char *name)
+Widget *child(const QObject *window, const char *name)
 {
     auto *found = window->findChild<Widget *>(QLatin1StringView(name));
     if (!found)
@@ -265,6 +266,48 @@ void showForecast(MainWindow *window)
     kinds->setCurrentIndex(kind);
 }
 
+/// A chain of rules: one of them off, one edited, the menu of rule sets and the dialogs behind it.
+void showRules(MainWindow *window)
+{
+    auto *sets = child<QToolButton>(window, "buttonRuleSets");
+    const auto choose = [sets](const char *action) {
+        emit sets->menu()->aboutToShow();
+        child<QAction>(sets->menu(), action)->trigger();
+    };
+    emit sets->menu()->aboutToShow();
+    child<QMenu>(sets->menu(), "menuRuleExamples")->actions().at(2)->trigger();
+    auto *tree = child<QTreeWidget>(window, "treeWidgetRules");
+    tree->topLevelItem(1)->setCheckState(0, Qt::Unchecked);
+    tree->setCurrentItem(tree->topLevelItem(0));
+    child<QListWidget>(window, "listWidgetFiles")->setCurrentRow(0);
+    tidyLog(window);
+    show(window, u"rules"_s);
+    expectWholeText(sets);
+    showMenu(u"menu-rule-sets"_s, [sets] { QTimer::singleShot(0, sets, &QToolButton::showMenu); });
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_F2);
+    show(window, u"rules-edited"_s);
+    for (const char *button : {"buttonAddRule", "buttonApplyRule", "buttonLeaveRule"})
+        expectWholeText(child<QAbstractButton>(window, button));
+    QTest::keyClick(tree, Qt::Key_Escape);
+    const auto expectWholeButtons = [](QWidget *dialog) {
+        const auto inside = dialog->findChildren<QAbstractButton *>();
+        std::for_each(inside.begin(), inside.end(), &expectWholeText);
+    };
+    const auto dialog = []() -> QWidget * {
+        return qobject_cast<QDialog *>(QApplication::activeWindow());
+    };
+    showOpened(
+        u"rule-set-name"_s, [&] { choose("actionSaveRuleSetAs"); }, dialog, expectWholeButtons);
+    showOpened(
+        u"rule-sets"_s, [&] { choose("actionManageRuleSets"); }, dialog, expectWholeButtons);
+    const auto load = [sets] {
+        emit sets->menu()->aboutToShow();
+        child<QMenu>(sets->menu(), "menuRuleExamples")->actions().at(0)->trigger();
+    };
+    showBox(u"rules-unsaved"_s, load, expectWholeButtons);
+}
+
 void showMainWindow(MainWindow *window)
 {
     tidyLog(window);
@@ -386,8 +429,8 @@ void showToolTip(QWidget *window)
 
 int main(int argc, char **argv)
 {
-    const bool onlyForecast = argc == 3 && QLatin1StringView(argv[2]) == "forecast"_L1;
-    if (argc != 2 && !onlyForecast)
+    const QLatin1StringView only(argc == 3 ? argv[2] : "");
+    if (argc != 2 && only != "forecast"_L1 && only != "rules"_L1)
         return 2;
     folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
     Application application(argc, argv);
@@ -397,12 +440,16 @@ int main(int argc, char **argv)
     application.init();
     const TempTree files;
     MainWindow *window = topLevel<MainWindow>();
-    showForecast(window);
-    if (onlyForecast) {
+    if (only != "rules"_L1)
+        showForecast(window);
+    if (only.isEmpty() || only == "rules"_L1)
+        fillMainWindow(window, files);
+    if (only == "rules"_L1)
+        showRules(window);
+    if (!only.isEmpty()) {
         window->closeQuietly();
         return 0;
     }
-    fillMainWindow(window, files);
     showMainWindow(window);
     showDialogs(window);
     showBoxes(window);
