@@ -3,11 +3,23 @@
 
 #include "mainwindow/activerules.h"
 
+#include <algorithm>
 #include <utility>
 
 int ActiveRules::rowOf(const RuleData *record) const
 {
-    return static_cast<int>(records.indexOf(const_cast<RuleData *>(record)));
+    const auto found = std::find(records.cbegin(), records.cend(), record);
+    return found == records.cend() ? -1 : static_cast<int>(found - records.cbegin());
+}
+
+RuleSteps ActiveRules::stepsAbove(int row) const
+{
+    RuleSteps steps;
+    for (int above = 0; above < row; ++above) {
+        if (note(above).isOn)
+            steps.push_back(record(above));
+    }
+    return steps;
 }
 
 void ActiveRules::insert(int row, ActiveRule rule)
@@ -62,7 +74,7 @@ void ActiveRules::setOn(int row, bool isOn)
     if (notes.at(row).isOn == isOn)
         return;
     notes[row].isOn = isOn;
-    findSteps();
+    onSteps = stepsAbove(count());
     emit switched(row);
 }
 
@@ -74,17 +86,8 @@ void ActiveRules::add(std::vector<ActiveRule> rules)
     }
 }
 
-void ActiveRules::findSteps()
-{
-    onSteps.clear();
-    for (int row = 0; row < count(); ++row) {
-        if (note(row).isOn)
-            onSteps.push_back(record(row));
-    }
-}
-
 void ActiveRules::finish()
 {
-    findSteps();
+    onSteps = stepsAbove(count());
     emit changed();
 }

@@ -45,6 +45,8 @@ public:
     [[nodiscard]] int rowOf(const RuleData *record) const;
     /// The rules that are on.
     [[nodiscard]] const RuleSteps &steps() const { return onSteps; }
+    /// Those of them above a row.
+    [[nodiscard]] RuleSteps stepsAbove(int row) const;
 
     void insert(int row, ActiveRule rule);
     void append(std::vector<ActiveRule> rules);
@@ -65,7 +67,6 @@ signals:
 
 private:
     void add(std::vector<ActiveRule> rules);
-    void findSteps();
     void finish();
 
     QList<RuleData *> &records;

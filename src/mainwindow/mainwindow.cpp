@@ -147,7 +147,7 @@ void MainWindow::createRules()
     qDeleteAll(factories);
     ui->stackedWidgetRules->adjustSize();
     (new EditorLayout(ui->stackedWidgetRules))->orderTabs(ui->comboBoxRules, ui->buttonAddRule);
-    new RuleExample(ruleTypes, *fates, *ui);
+    new RuleExample(ruleTypes, *activeRules, *ruleEdit, *fates, *ui);
 }
 
 void MainWindow::watchRules()
@@ -164,9 +164,9 @@ void MainWindow::watchRules()
     connect(activeRules.get(), &ActiveRules::switched, this, showNames);
     ui->treeWidgetRules->setItemDelegate(new WholeTextDelegate(ui->treeWidgetRules));
     new RuleSwitches(*activeRules, ui->treeWidgetRules);
-    const auto *edit = new RuleEdit(*activeRules, ruleTypes, *ui);
+    ruleEdit = new RuleEdit(*activeRules, ruleTypes, *ui);
     ruleSets = new RuleSetMenu(*activeRules, ruleTypes, *ui);
-    connect(edit, &RuleEdit::editingChanged, ruleSets, &RuleSetMenu::setHidden);
+    connect(ruleEdit, &RuleEdit::editingChanged, ruleSets, &RuleSetMenu::setHidden);
     const auto *drag = new RuleTreeDrag(*activeRules, ui->treeWidgetRules);
     connect(drag, &RuleTreeDrag::ruleSetsDropped, ruleSets, &RuleSetMenu::importFiles);
     addRuleKeys(this, ui->treeWidgetRules, *activeRules);

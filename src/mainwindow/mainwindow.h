@@ -23,6 +23,7 @@ class QSignalMapper;
 class QTreeView;
 class RenameRun;
 class Rule;
+class RuleEdit;
 class RuleSetMenu;
 class RunHistory;
 class RunProgress;
@@ -136,6 +137,7 @@ private:
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned; changed by activeRules alone
     std::unique_ptr<ActiveRules> activeRules;
+    RuleEdit *ruleEdit = nullptr;
     RuleSetMenu *ruleSets = nullptr;
     QTimer *logTimer = nullptr;
     /// Null until there was a system tray.

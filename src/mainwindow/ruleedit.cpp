@@ -4,6 +4,7 @@
 #include "mainwindow/ruleedit.h"
 
 #include "mainwindow/activerules.h"
+#include "naming/kind.h"
 #include "rules/editing.h"
 #include "rules/rule.h"
 #include "ui_mainwindow.h"
@@ -48,6 +49,11 @@ RuleEdit::RuleEdit(ActiveRules &ofRules, const QMap<int, Rule *> &ofKinds, const
     setEditing(false);
     ui.treeWidgetRules->viewport()->installEventFilter(this);
     connect(&rules, &ActiveRules::changed, this, &RuleEdit::followRules);
+}
+
+int RuleEdit::editedRow() const
+{
+    return edited ? rules.rowOf(edited) : -1;
 }
 
 void RuleEdit::createButtons()
@@ -97,10 +103,11 @@ bool RuleEdit::eventFilter(QObject *watched, QEvent *event)
     if (watched == applyButton && event->type() == QEvent::LanguageChange)
         retranslate();
     if (event->type() == QEvent::MouseButtonDblClick && watched == ui.treeWidgetRules->viewport()) {
-        const QPoint place = static_cast<QMouseEvent *>(event)->position().toPoint();
+        const auto *click = static_cast<QMouseEvent *>(event);
+        const QPoint place = click->position().toPoint();
         const QModelIndex index = ui.treeWidgetRules->indexAt(place);
         // Whoever clicks fast on a check box switches the rule twice.
-        if (!isOnCheckBox(ui.treeWidgetRules, index, place))
+        if (click->button() == Qt::LeftButton && !isOnCheckBox(ui.treeWidgetRules, index, place))
             begin(index.row());
     }
     return QObject::eventFilter(watched, event);
@@ -111,7 +118,7 @@ void RuleEdit::begin(int row)
     if (row < 0)
         return;
     edited = &rules.record(row);
-    const int page = kinds.key(const_cast<Rule *>(edited->rule));
+    const int page = static_cast<int>(kindOf(edited->parameters));
     ui.comboBoxRules->setCurrentIndex(ui.comboBoxRules->findData(page));
     showParameters(ui.stackedWidgetRules->widget(page), edited->parameters);
     setEditing(true);
@@ -123,6 +130,8 @@ void RuleEdit::apply()
     const int page = ui.stackedWidgetRules->currentIndex();
     std::unique_ptr<RuleData> record(kinds.value(page)->createData(ui.stackedWidgetRules->currentWidget()));
     const int row = rules.rowOf(edited);
+    if (row < 0)
+        return;
     leave();
     rules.replace(row, std::move(record));
     ui.treeWidgetRules->setCurrentItem(ui.treeWidgetRules->topLevelItem(row), 0);

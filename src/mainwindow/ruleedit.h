@@ -28,6 +28,9 @@ public:
     /// The kinds by the page of their editor.
     RuleEdit(ActiveRules &ofRules, const QMap<int, Rule *> &ofKinds, const Ui::MainWindow &ofWindow);
 
+    /// The row of the rule, or -1.
+    [[nodiscard]] int editedRow() const;
+
 signals:
     /// It began or ended.
     void editingChanged(bool isEditing);

@@ -3,11 +3,12 @@
 
 #include "mainwindow/ruleexample.h"
 
+#include "mainwindow/activerules.h"
 #include "mainwindow/elidedlabel.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/fileitem.h"
+#include "mainwindow/ruleedit.h"
 #include "rules/rule.h"
-#include "rules/rulechain.h"
 #include "ui_mainwindow.h"
 
 using namespace Qt::StringLiterals;
@@ -18,10 +19,12 @@ constexpr int pauseInTyping = 300; // milliseconds
 
 } // namespace
 
-RuleExample::RuleExample(const QMap<int, Rule *> &ofKinds, const Fates &ofFates,
-                         const Ui::MainWindow &ofWindow)
+RuleExample::RuleExample(const QMap<int, Rule *> &ofKinds, const ActiveRules &ofRules, const RuleEdit &ofEdit,
+                         const Fates &ofFates, const Ui::MainWindow &ofWindow)
     : QObject(ofWindow.stackedWidgetRules)
     , kinds(ofKinds)
+    , rules(ofRules)
+    , edit(ofEdit)
     , ui(ofWindow)
     , label(new ElidedLabel(ofWindow.tabFilters))
 {
@@ -37,14 +40,15 @@ RuleExample::RuleExample(const QMap<int, Rule *> &ofKinds, const Fates &ofFates,
     };
     connect(ui.listWidgetFiles, &QListWidget::currentItemChanged, this, refreshSoon);
     connect(&ofFates, &Fates::changed, this, refreshSoon);
+    connect(&edit, &RuleEdit::editingChanged, this, refreshSoon);
     watchEditors();
 }
 
 void RuleExample::watchEditors()
 {
     const auto lineEdits = ui.stackedWidgetRules->findChildren<QLineEdit *>();
-    for (const QLineEdit *edit : lineEdits)
-        connect(edit, &QLineEdit::textChanged, this, [this] { pause.start(pauseInTyping); });
+    for (const QLineEdit *field : lineEdits)
+        connect(field, &QLineEdit::textChanged, this, [this] { pause.start(pauseInTyping); });
     const auto buttons = ui.stackedWidgetRules->findChildren<QAbstractButton *>();
     for (const QAbstractButton *button : buttons)
         connect(button, &QAbstractButton::toggled, this, &RuleExample::refresh);
@@ -52,13 +56,21 @@ void RuleExample::watchEditors()
 
 void RuleExample::refresh()
 {
-    const FileItem *item = ui.listWidgetFiles->fileItem(ui.listWidgetFiles->currentRow());
+    const int row = ui.listWidgetFiles->currentRow();
+    const FileItem *item = ui.listWidgetFiles->fileItem(row);
     const Rule *kind = kinds.value(ui.stackedWidgetRules->currentIndex());
     if (!item || !kind) {
         label->setNames({}, {}, {});
         return;
     }
     const std::unique_ptr<RuleData> record(kind->createData(ui.stackedWidgetRules->currentWidget()));
-    const QString name = item->shownName();
-    label->setNames(name, u" → "_s, applyRuleChain(record.get(), name, ui.listWidgetFiles->currentRow()));
+    const QString name = nameOf(*item, row);
+    label->setNames(name, u" → "_s, applyRuleChain(record.get(), name, row));
+}
+
+QString RuleExample::nameOf(const FileItem &item, int row) const
+{
+    if (edit.editedRow() < 0 || !ui.buttonPreview->isChecked())
+        return item.shownName();
+    return applyRules(rules.stepsAbove(edit.editedRow()), FilePaths().split(item.path()).name(), row);
 }

@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 Kavrondel
 # SPDX-License-Identifier: MIT
-"""Rules that are kept, switched off and edited have their room in every language, and on a screen of high resolution."""
+"""Rules that are kept, switched off and edited have their room in every language and on a screen of high resolution."""
 
 import pathlib
 import unittest

@@ -143,6 +143,14 @@ private slots:
         window->click("buttonAddRule");
         window->click("buttonPreview");
         QTRY_COMPARE(label->text(), u"8b → 88b"_s);
+        // Of a rule that is edited, the rules above it count, and they alone.
+        window->addInsert(u"x"_s);
+        window->selectRule(1);
+        window->ruleTree()->setFocus();
+        QTest::keyClick(window->ruleTree(), Qt::Key_F2);
+        QTRY_COMPARE(label->text(), u"8b → x8b"_s);
+        QTest::keyClick(window->ruleTree(), Qt::Key_Escape);
+        QTRY_COMPARE(label->text(), u"x8b → xx8b"_s);
         window->files()->clear();
         QTRY_COMPARE(label->text(), QString());
     }
