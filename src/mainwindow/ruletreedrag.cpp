@@ -6,6 +6,7 @@
 #include "mainwindow/activerules.h"
 #include "naming/rulesetfolder.h"
 
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTimer>
@@ -53,6 +54,9 @@ bool RuleTreeDrag::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
         dropRule(drop->position().toPoint());
+        // The drop line goes.
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(tree->viewport(), &leave);
         // The tree would move the row itself, or remove it when the drag ends.
         drop->setDropAction(Qt::IgnoreAction);
         drop->accept();
