@@ -83,11 +83,11 @@ void TestRuleInsertText::directionsExcludeEachOther()
 void TestRuleInsertText::createDataReadsTheEditor()
 {
     RuleWidgetInsertText editor(nullptr);
-    editor.lineEditText->setText(u"Ж 😀"_s);
+    editor.lineEditText->setText(u" Ж 😀 "_s);
     editor.spinBoxPosition->setValue(512);
     editor.direction.radioButtonEnd->setChecked(true);
     const auto parameters = captured<InsertTextParameters>(rule, editor);
-    QCOMPARE(parameters.text, u"Ж 😀"_s);
+    QCOMPARE(parameters.text, u" Ж 😀 "_s);
     QCOMPARE(parameters.position, 512);
     QVERIFY(!parameters.fromStart);
 
