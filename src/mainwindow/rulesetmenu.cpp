@@ -25,7 +25,7 @@ QString folderOfSets()
 
 QString lastUsedFile()
 {
-    return dataDirectory() + "/config/lastused"_L1 + ruleSetSuffix;
+    return dataDirectory() + "/lastused"_L1 + ruleSetSuffix;
 }
 
 /// A name as a menu shows it.
