@@ -194,10 +194,10 @@ private slots:
             << push << u"Rename"_s << no << u"start"_s << 20 << QSize(140, 0) << false << false;
         QTest::newRow("checkBoxShowFullPath")
             << check << u"Show full path"_s << no << u"folder"_s << 20 << none << true << false;
-        QTest::newRow("buttonUndo") << tool << no << u"Undo the last run"_s << u"undo"_s << 20 << none
-                                    << false << false;
-        QTest::newRow("buttonRuns") << tool << no << u"Undo, redo and earlier runs"_s << u"runs"_s << 20
-                                    << none << false << false;
+        QTest::newRow("buttonUndo") << tool << no << u"Undo the last run"_s << u"undo"_s << 16
+                                    << QSize(16, 24) << false << false;
+        QTest::newRow("buttonRuns") << tool << no << u"Undo, redo and earlier runs"_s << u"runs"_s << 16
+                                    << QSize(16, 24) << false << false;
         QTest::newRow("checkBoxSaveLog")
             << check << u"Save"_s << u"Save logs"_s << u"save"_s << 20 << none << true << false;
         QTest::newRow("checkBoxDebug") << check << u"Debug"_s << u"Include debug messages"_s << u"debug"_s
@@ -328,7 +328,9 @@ private slots:
                               u"buttonFileListDown"_s, u"-"_s, u"buttonFileListClear"_s}));
         QCOMPARE(itemNames(window->child<QHBoxLayout>("horizontalLayout_2")),
                  QStringList({u"buttonPreview"_s, u"buttonRename"_s, u"checkBoxShowFullPath"_s, u"-"_s,
-                              u"buttonUndo"_s, u"buttonRuns"_s}));
+                              u"layoutUndo"_s}));
+        QCOMPARE(itemNames(window->child<QHBoxLayout>("layoutUndo")),
+                 QStringList({u"buttonUndo"_s, u"buttonRuns"_s}));
         QCOMPARE(window->child<QLabel>("label")->text(), u"Name Filter"_s);
         QCOMPARE(window->child<QLineEdit>("lineEditFileFilter")->text(), QString());
         QCOMPARE(window->child<QLineEdit>("lineEditFileFilter")->placeholderText(), u"*.*"_s);
