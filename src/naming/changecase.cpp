@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "naming/halves.h"
 #include "naming/transform.h"
 
 #include <QFileInfo>
@@ -24,14 +25,6 @@ QString withFirstLettersUpper(const QString &name)
         result.append(previous);
     }
     return result;
-}
-
-bool isHalf(const QString &name, qsizetype at)
-{
-    const QChar character = name.at(at);
-    if (character.isHighSurrogate())
-        return at + 1 == name.size() || !name.at(at + 1).isLowSurrogate();
-    return character.isLowSurrogate() && (at == 0 || !name.at(at - 1).isHighSurrogate());
 }
 
 /// name after QString::toLower or toUpper. Half a character stays as it is, for a later rule may put the

@@ -3,6 +3,8 @@
 
 #include "naming/rulesetfields.h"
 
+#include "naming/halves.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -17,15 +19,6 @@ struct RuleSets
 };
 
 constexpr auto commentField = "comment"_L1;
-
-/// Half a character, which no UTF-8 can hold: escapes can.
-bool isHalf(QStringView text, qsizetype at)
-{
-    const QChar unit = text.at(at);
-    if (unit.isHighSurrogate())
-        return at + 1 == text.size() || !text.at(at + 1).isLowSurrogate();
-    return unit.isLowSurrogate() && (at == 0 || !text.at(at - 1).isHighSurrogate());
-}
 
 /// Whether it may not stand in a file as it is: line ends of any kind, what is taken for a byte order mark,
 /// and what UTF-8 cannot hold.
