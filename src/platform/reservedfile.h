@@ -37,17 +37,19 @@ public:
     /// on any thread.
     bool sync();
 
-    [[nodiscard]] QString path() const { return file.fileName(); }
+    [[nodiscard]] QString path() const { return ownPath; }
     [[nodiscard]] QString error() const { return lastError; }
 
 private:
     explicit ReservedFile(const QString &path)
-        : file(path)
+        : ownPath(path)
+        , file(path)
     {
     }
     bool syncWindow();
     void showWindow(char *memory, qsizetype size);
 
+    QString ownPath;
     QFile file;
     QString lastError;
     char *window = nullptr;

@@ -119,6 +119,6 @@ bool ReservedFile::sync()
     if (!file.isOpen() || fdatasync(file.handle()) != 0)
         return false;
     if (!entrySynced)
-        entrySynced = syncFolder(QFileInfo(file.fileName()).absolutePath());
+        entrySynced = syncFolder(QFileInfo(path()).absolutePath());
     return entrySynced;
 }

@@ -4,6 +4,7 @@
 #include "platform/reservedfile.h"
 
 #include "platform/filelock.h"
+#include "platform/sharedfile.h"
 
 #include <windows.h>
 
@@ -22,8 +23,8 @@ std::unique_ptr<ReservedFile> ReservedFile::create(const QString &path, QString 
 {
     std::unique_ptr<ReservedFile> made(new ReservedFile(path));
     // The user's folder is the user's alone.
-    if (!made->file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) {
-        *error = made->file.errorString();
+    if (!openShared(made->file, QIODevice::ReadWrite | QIODevice::NewOnly)) {
+        *error = qt_error_string();
         return nullptr;
     }
     (void)lockFile(made->file);
@@ -93,7 +94,8 @@ void ReservedFile::discard()
 {
     const QMutexLocker lock(&syncing);
     showWindow(nullptr, 0);
-    file.remove();
+    file.close();
+    (void)removeShared(path());
 }
 
 bool ReservedFile::sync()

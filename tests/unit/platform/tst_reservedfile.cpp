@@ -6,6 +6,7 @@
 #include "platform/filelock.h"
 #include "platform/foldernumbers.h"
 #include "platform/reservedfile.h"
+#include "platform/sharedfile.h"
 #include "platform/volume.h"
 #include "support/temptree.h"
 
@@ -110,6 +111,43 @@ private slots:
         QVERIFY(isLocked(other));
         QVERIFY(file->finish(0));
         QVERIFY(!isLocked(other));
+    }
+
+    /// On Windows only a file that was opened for it.
+    void fileInUseCanBeRemoved()
+    {
+        const TempTree tree;
+        QString error;
+        auto file = ReservedFile::create(tree.path(u"a"_s), &error);
+        QVERIFY(file->moveWindow(0, ReservedFile::windowStep()));
+        QFile reader(file->path());
+        QVERIFY(openShared(reader, QIODevice::ReadOnly));
+        QVERIFY(file->finish(10));
+        QVERIFY(removeShared(file->path()));
+        QVERIFY(!QFile::exists(file->path()));
+        QCOMPARE(reader.readAll(), QByteArray(10, '\0'));
+        file.reset();
+        reader.close();
+        QCOMPARE(tree.names(), QStringList());
+        QVERIFY(!removeShared(tree.path(u"a"_s)));
+    }
+
+    void openingMakesNoFile()
+    {
+        const TempTree tree;
+        QFile file(tree.path(u"a"_s));
+        QVERIFY(!openShared(file, QIODevice::ReadOnly));
+        QVERIFY(!openShared(file, QIODevice::ReadWrite | QIODevice::ExistingOnly));
+        QCOMPARE(tree.names(), QStringList());
+        QVERIFY(openShared(file, QIODevice::ReadWrite | QIODevice::NewOnly));
+        QCOMPARE(file.write("ab"), 2);
+        QVERIFY(file.flush() && file.seek(1));
+        QCOMPARE(file.readAll(), "b");
+        QCOMPARE(file.size(), 2);
+        QVERIFY(file.resize(1));
+        QFile other(tree.path(u"a"_s));
+        QVERIFY(!openShared(other, QIODevice::ReadWrite | QIODevice::NewOnly));
+        QCOMPARE(tree.content(u"a"_s), "a");
     }
 
     void listingTellsTheNumbersOfFiles()

@@ -7,6 +7,7 @@
 #include "platform/autostart.h"
 #include "platform/filerename.h"
 #include "platform/osversion.h"
+#include "platform/sharedfile.h"
 #include "platform/userdatafolder.h"
 #include "support/temptree.h"
 
@@ -187,6 +188,19 @@ private slots:
         QCOMPARE(renameFile(deep, deep + u'Ж'), RenameResult::Done);
         QVERIFY(!QFileInfo::exists(deep));
         QCOMPARE(readFile(deep + u'Ж'), "a");
+    }
+
+    void fileOfWhoDoesNotShareItStays()
+    {
+        const TestFolder folder;
+        QVERIFY(writeFile(u"a"_s, "a"));
+        QFile other(folder.path(u"a"_s));
+        QVERIFY(other.open(QIODevice::ReadOnly));
+        QVERIFY(!removeShared(folder.path(u"a"_s)));
+        QCOMPARE(entriesOf(folder.path()), QStringList(u"a"_s));
+        other.close();
+        QVERIFY(removeShared(folder.path(u"a"_s)));
+        QCOMPARE(entriesOf(folder.path()), QStringList());
     }
 
     void taskbarIsConnectedTo()
