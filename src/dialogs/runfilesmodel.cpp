@@ -4,6 +4,7 @@
 #include "dialogs/runfilesmodel.h"
 
 #include "dialogs/runtexts.h"
+#include "platform/sharedfile.h"
 
 #include <QDir>
 
@@ -19,7 +20,7 @@ RunFilesModel::RunFilesModel(const QString &journal, const QDateTime &runBegan, 
     , file(journal)
     , began(runBegan)
 {
-    if (file.open(QIODevice::ReadOnly))
+    if (openShared(file, QIODevice::ReadOnly))
         entries.emplace(file);
     fetchMore({});
 }

@@ -3,6 +3,8 @@
 
 #include "naming/patterncost.h"
 
+#include "platform/processortime.h"
+
 #include <QMultiMap>
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -10,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -260,9 +261,7 @@ PatternCost patternCost(QStringView pattern)
 bool isQuickEnough(QStringView pattern, const std::function<void(const QString &)> &search)
 {
     const auto millisecondsFor = [&search](const QString &name) {
-        const std::clock_t start = std::clock();
-        search(name);
-        return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+        return processorMilliseconds([&] { search(name); });
     };
     QStringList names = adverseNames(pattern);
     double costBefore = 0.001;

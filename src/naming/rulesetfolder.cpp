@@ -19,8 +19,9 @@ struct RuleSets
     Q_DECLARE_TR_FUNCTIONS(RuleSets)
 };
 
-/// A name that every file system takes, short enough for what QSaveFile adds to it for a while.
-QString fileName(const QString &name)
+} // namespace
+
+QString fileNameOfSet(const QString &name)
 {
     // The longest name of a file has 255 bytes in UTF-8; a character of a set's name takes three at most.
     constexpr qsizetype mostCharacters = 70;
@@ -42,8 +43,6 @@ QString fileName(const QString &name)
         result.prepend(u'_');
     return result;
 }
-
-} // namespace
 
 std::optional<RuleSet> readRuleSet(const QString &path, QString *error)
 {
@@ -148,7 +147,7 @@ bool RuleSetFolder::remove(const Entry &entry) const
 
 QString RuleSetFolder::freePath(const QString &name) const
 {
-    const QString base = folder + u'/' + fileName(name);
+    const QString base = folder + u'/' + fileNameOfSet(name);
     QString path = base + ruleSetSuffix;
     for (int number = 2; QFileInfo::exists(path) || QFileInfo(path).isSymLink(); ++number)
         path = base + u' ' + QString::number(number) + ruleSetSuffix;

@@ -13,6 +13,10 @@
 /// Writes the whole file or leaves it as it was. The error is empty when it was written.
 [[nodiscard]] QString writeRuleSet(const QString &path, const RuleSet &set);
 
+/// The name of a set's file without its end: one that every file system takes, short enough for what
+/// QSaveFile adds to it for a while.
+[[nodiscard]] QString fileNameOfSet(const QString &name);
+
 /// How files of rule sets end, with the dot.
 inline constexpr QLatin1StringView ruleSetSuffix{".orvanto-rules"};
 

@@ -3,6 +3,7 @@
 
 #include "rules/rulereplace.h"
 
+#include "rules/patternhelp.h"
 #include "rules/patternmark.h"
 #include "ui_rulereplace.h"
 
@@ -27,6 +28,8 @@ void RuleWidgetReplace::retranslateUi()
     labelReplaceWith->setText(QCoreApplication::translate("Rules", "Replace with"));
     toolButtonRegExp->setStatusTip(QCoreApplication::translate("Rules", "Regular Expression"));
     toolButtonRegExp->setAccessibleName(toolButtonRegExp->statusTip());
+    toolButtonRegExp->setToolTip(patternToolTip(toolButtonRegExp->statusTip()));
+    toolButtonRegExp->setAccessibleDescription(patternDescription());
     patternMark->refresh();
 }
 

@@ -4,15 +4,9 @@
 #pragma once
 
 #include "run/diskview.h"
-#include "run/filepath.h"
-#include "run/forecastfolder.h"
+#include "run/foldermap.h"
+#include "run/folderstep.h"
 #include "run/outcome.h"
-
-#include <QHash>
-#include <QSet>
-
-#include <memory>
-#include <vector>
 
 /// Foretells what a RenameRun will come to: row after row, each earlier move laid over the disk as it is.
 /// Nothing is written, and each folder that rows lead to is read once. Whoever asks goes through the rows
@@ -49,32 +43,16 @@ public:
     [[nodiscard]] int handled() const { return handledRows; }
 
 private:
-    struct Step;
-
-    /// The path ends with a separator.
-    [[nodiscard]] ForecastFolder &folderAt(QStringView path);
-    [[nodiscard]] ForecastFolder *newFolder(const QString &path);
-    [[nodiscard]] ForecastFolder &readFolder(QStringView path);
     [[nodiscard]] Fate reasonFor(const FilePath &file, const QString &newName, Outcome &outcome);
     [[nodiscard]] Fate refuseAllButFolders(const FilePath &file, const QString &newName);
-    [[nodiscard]] Fate move(const Step &step, Outcome &outcome);
-    [[nodiscard]] std::optional<Fate> refusalOf(const Step &step, const ForecastFolder::Entry *there,
+    [[nodiscard]] Fate move(const FolderStep &step, Outcome &outcome);
+    [[nodiscard]] std::optional<Fate> refusalOf(const FolderStep &step, const ForecastFolder::Entry *there,
                                                 Outcome &outcome) const;
     [[nodiscard]] Fate takenBy(int row, Outcome &outcome) const;
     [[nodiscard]] std::optional<FileIdentity::Kind> kindAt(const QString &path) const;
-    void noteMovedWay(const QString &path);
-    [[nodiscard]] bool leadsThroughMoved(const QString &path) const;
 
     const DiskView &view;
+    FolderMap folders;
     int addedRows = 0;
     int handledRows = 0;
-
-    std::vector<std::unique_ptr<ForecastFolder>> folders;
-    /// With the separator at their end.
-    QHash<QString, ForecastFolder *> byPath;
-    QHash<std::pair<quint64, quint64>, ForecastFolder *> byIdentity;
-    QString lastPath;
-    ForecastFolder *lastFolder = nullptr;
-    /// Folders and links that rows move: paths through them are not told.
-    QSet<QString> movedWays;
 };

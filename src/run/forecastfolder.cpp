@@ -136,6 +136,19 @@ void ForecastFolder::remove(Entry *entry, QStringView name)
         --alike[foldedName(name, Spelling::AnyCase)];
 }
 
+int ForecastFolder::claim(QStringView name, int row)
+{
+    Entry *entry = find(name);
+    if (!entry)
+        entry = &*names.insert(store.keep(keyOf(name)), {.kind = {}});
+    if (entry->taker >= 0)
+        return entry->taker;
+    entry->taker = row;
+    if (known.spelling == Spelling::Unknown)
+        ++alike[foldedName(name, Spelling::AnyCase)];
+    return -1;
+}
+
 void ForecastFolder::doubt(Entry *entry, QStringView name)
 {
     if (entry)

@@ -24,6 +24,8 @@ public:
         /// Whether that is known: a row whose fate is unknown may have taken the name, or left it.
         bool isSure = true;
         std::optional<FileIdentity::Kind> kind;
+        /// The row that shall have the name, where that is asked; -1: none.
+        int taker = -1;
     };
 
     /// The path ends with a separator.
@@ -43,6 +45,8 @@ public:
     /// Puts what is moved here under its new name, in the place of what was there.
     void insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind);
     void remove(Entry *entry, QStringView name);
+    /// The row shall have the name: the row that shall have it already, which keeps it; otherwise -1.
+    int claim(QStringView name, int row);
     /// Whether something is there by the name shall be unknown; the entry is that of the name, if there is
     /// one.
     void doubt(Entry *entry, QStringView name);

@@ -4,6 +4,7 @@
 #include "run/journalfolder.h"
 
 #include "platform/filelock.h"
+#include "platform/sharedfile.h"
 #include "run/journalreader.h"
 
 #include <QCryptographicHash>
@@ -18,8 +19,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto namePattern = "????????T?????????Z-????????.jsonl";
+constexpr QLatin1StringView namePattern("????????T?????????Z-????????.jsonl");
 constexpr int lockPatience = 2000; // milliseconds
+
+/// No filter of QDir's, which would be a regular expression: of those Qt leaves each thread something that
+/// cannot be taken down at its end in a program for Windows that was built with MinGW.
+bool isJournal(const QString &name)
+{
+    const auto fits = [](QChar character, char wanted) {
+        return wanted == '?' || character == QLatin1Char(wanted);
+    };
+    return std::equal(name.begin(), name.end(), namePattern.begin(), namePattern.end(), fits);
+}
 
 QString timeText(const QDateTime &time)
 {
@@ -92,8 +103,8 @@ JournalFolder::JournalFolder(QString folderPath)
 
 QStringList JournalFolder::names() const
 {
-    QStringList names =
-        QDir(path).entryList({QString::fromLatin1(namePattern)}, QDir::Files | QDir::NoSymLinks);
+    QStringList names = QDir(path).entryList(QDir::Files | QDir::NoSymLinks);
+    names.removeIf([](const QString &name) { return !isJournal(name); });
     std::sort(names.begin(), names.end(), std::greater<>());
     return names;
 }
@@ -103,7 +114,7 @@ JournalInfo JournalFolder::read(const QString &name) const
     JournalInfo journal;
     journal.name = name;
     QFile file(filePath(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openShared(file, QIODevice::ReadOnly))
         return journal;
     journal.bytes = file.size();
     const JournalSummary summary = summaryOf(file);
@@ -201,7 +212,7 @@ std::unique_ptr<QLockFile> JournalFolder::locked() const
 bool JournalFolder::leave(const QString &name)
 {
     QFile file(filePath(name));
-    if (!file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
+    if (!openShared(file, QIODevice::ReadWrite | QIODevice::ExistingOnly) ||
         lockFile(file) == FileLock::HeldByAnother)
         return false;
     const qint64 end = endOfLines(file);
@@ -217,7 +228,7 @@ QSet<qint64> JournalFolder::takenBack(const QString &name, const QList<JournalIn
             continue;
         const QSet<qint64> redone = takenBack(journal.name, newestFirst);
         QFile file(filePath(journal.name));
-        if (!file.open(QIODevice::ReadOnly))
+        if (!openShared(file, QIODevice::ReadOnly))
             continue;
         BackwardEntries entries(file);
         while (const auto entry = entries.next()) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/filelock.h"
+#include "platform/sharedfile.h"
 #include "run/journalfolder.h"
 
 #include <QFile>
@@ -134,9 +135,9 @@ bool JournalFolder::remove(const QStringList &some)
     for (const QString &name : some) {
         QFile file(filePath(name));
         // Locked by whoever writes it, or takes it back.
-        const bool isInHand = file.open(QIODevice::ReadOnly) && isLocked(file);
+        const bool isInHand = openShared(file, QIODevice::ReadOnly) && isLocked(file);
         file.close();
-        all = !isInHand && QFile::remove(filePath(name)) && all;
+        all = !isInHand && removeShared(filePath(name)) && all;
     }
     return all;
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "platform/sharedfile.h"
 #include "run/journalfolder.h"
 #include "run/journalreader.h"
 
@@ -28,7 +29,7 @@ QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo
 {
     QSet<size_t> keys;
     QFile file(filePath(name));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openShared(file, QIODevice::ReadOnly))
         return keys;
     const QSet<qint64> gone = takenBack(name, newestFirst);
     BackwardEntries entries(file);
@@ -54,7 +55,7 @@ QString JournalFolder::touchedBy(const QString &name) const
         if (!files)
             files = filesOf(name, newestFirst);
         QFile file(filePath(later.name));
-        if (!file.open(QIODevice::ReadOnly))
+        if (!openShared(file, QIODevice::ReadOnly))
             continue;
         const QSet<qint64> gone = takenBack(later.name, newestFirst);
         BackwardEntries entries(file);
@@ -83,7 +84,7 @@ QHash<QString, QString> JournalFolder::touchedRuns(const std::atomic<bool> &stop
     for (qsizetype run = 0; run < newestFirst.size(); ++run) {
         const JournalInfo &journal = newestFirst.at(run);
         QFile file(filePath(journal.name));
-        if (!counts(journal) || !file.open(QIODevice::ReadOnly))
+        if (!counts(journal) || !openShared(file, QIODevice::ReadOnly))
             continue;
         const bool isOldest = --left == 0;
         const QSet<qint64> gone = takenBack(journal.name, newestFirst);

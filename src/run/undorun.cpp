@@ -4,6 +4,7 @@
 #include "run/undorun.h"
 
 #include "platform/filelock.h"
+#include "platform/sharedfile.h"
 
 #include <algorithm>
 
@@ -79,13 +80,13 @@ UndoRun::Begun UndoRun::begin(JournalFolder &folder, const QString &name, Disk &
         return {.run = nullptr, .refusal = refusal};
     std::unique_ptr<UndoRun> run(new UndoRun(folder, name, disk));
     // Where it cannot be written, nobody else can write to it either.
-    const bool isWritable = run->file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+    const bool isWritable = openShared(run->file, QIODevice::ReadWrite | QIODevice::ExistingOnly);
     if (isWritable && lockFile(run->file) == FileLock::HeldByAnother)
         return {.run = nullptr, .refusal = Refusal::InHand};
     // Once more: somebody may have taken it back before it was ours.
     journals = folder.list();
     const JournalInfo *journal = find(journals, name);
-    if ((!isWritable && !run->file.open(QIODevice::ReadOnly)) || !journal || journal->standing == 0)
+    if ((!isWritable && !openShared(run->file, QIODevice::ReadOnly)) || !journal || journal->standing == 0)
         return {.run = nullptr, .refusal = Refusal::NothingToDo};
     if (!folder.touchedBy(name).isEmpty())
         return {.run = nullptr, .refusal = Refusal::TouchedLater};

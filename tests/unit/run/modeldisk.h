@@ -121,15 +121,15 @@ private:
         const FolderTraits &traits() const override { return folder.traits; }
         std::optional<FolderEntry> next() override
         {
-            if (folder.traits.state != FolderTraits::State::There || at == folder.nodes.size())
+            if (folder.traits.state != FolderTraits::State::There || at == folder.nodes.constEnd())
                 return std::nullopt;
-            const auto node = std::next(folder.nodes.constBegin(), at++);
+            const auto node = at++;
             return FolderEntry{node.key(), node->kind};
         }
 
     private:
         const Folder folder;
-        qsizetype at = 0;
+        QMap<QString, Node>::const_iterator at = folder.nodes.constBegin();
     };
 
     static Folder missingFolder()

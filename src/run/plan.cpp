@@ -1,0 +1,187 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "run/plan.h"
+
+#include "run/newname.h"
+
+#include <QDir>
+
+using Entry = ForecastFolder::Entry;
+using Kind = FileIdentity::Kind;
+
+Plan::Plan(const DiskView &onView)
+    : view(onView)
+    , folders(onView)
+{
+}
+
+Plan::~Plan() = default;
+
+void Plan::add(const FilePath &file, const QString &newName)
+{
+    folders.at(QStringView(file.path).first(file.nameAt)).addRow(file.name(), static_cast<int>(rows.size()));
+    rows.push_back({file, newName});
+}
+
+void Plan::make()
+{
+    noteMovedWays();
+    const int count = static_cast<int>(rows.size());
+    for (int row = 0; row < count; ++row)
+        rows[static_cast<size_t>(row)].fate = claimName(row);
+    for (int row = 0; row < count; ++row)
+        findBlocker(row);
+    for (int row = 0; row < count; ++row)
+        refuseWaiters(row);
+    ordered.reserve(rows.size());
+    for (const bool isRing : {false, true}) {
+        for (int row = 0; row < count; ++row)
+            orderFrom(row, isRing);
+    }
+    for (const Row &row : rows) {
+        keptRows += row.fate == Fate::Unchanged ? 1 : 0;
+        refusedRows += row.fate != Fate::Unchanged && row.fate != Fate::Renamed ? 1 : 0;
+    }
+}
+
+Outcome Plan::outcome(int number) const
+{
+    const Row &row = rows.at(static_cast<size_t>(number));
+    const bool isSeparator = leadsElsewhere(row.newName) && row.fate != Fate::NoText;
+    return {.fate = isSeparator ? Fate::Separator : row.fate,
+            .reason = row.fate,
+            .row = row.fate == Fate::TakenByRow ? row.blocker : -1,
+            .path = target(number)};
+}
+
+QString Plan::target(int number) const
+{
+    const Row &row = rows.at(static_cast<size_t>(number));
+    return row.file.sibling(row.newName);
+}
+
+ForecastFolder &Plan::sourceOf(const Row &row)
+{
+    return folders.read(QStringView(row.file.path).first(row.file.nameAt));
+}
+
+ForecastFolder &Plan::targetOf(const Row &row)
+{
+    const qsizetype lastPartAt = NewName(row.newName).lastPartAt;
+    return lastPartAt == 0 ? sourceOf(row) : folders.read(row.file.sibling(row.newName.first(lastPartAt)));
+}
+
+/// Before anything else, as nothing is told of rows whose way may be another one by then.
+void Plan::noteMovedWays()
+{
+    for (const Row &row : rows)
+        noteMovedWay(row);
+}
+
+void Plan::noteMovedWay(const Row &row)
+{
+    if (row.newName == row.file.name() || NewName(row.newName).refusal)
+        return;
+    const Entry *entry = sourceOf(row).find(QStringView(row.file.path).sliced(row.file.nameAt));
+    if (!entry || entry->kind == Kind::File)
+        return;
+    const auto there = entry->kind ? std::nullopt : view.identity(row.file.path);
+    const auto kind = there ? std::optional(there->kind) : entry->kind;
+    if (kind != Kind::Folder && kind != Kind::Link)
+        return;
+    folders.noteMovedWay(row.file.path);
+    folders.noteMovedWay(QDir::cleanPath(row.file.sibling(row.newName)));
+}
+
+/// All that keeps a row from its new name, but for those that have the name now.
+Fate Plan::claimName(int number)
+{
+    const Row &row = rows[static_cast<size_t>(number)];
+    const NewName seen(row.newName);
+    if (seen.refusal)
+        return *seen.refusal;
+    ForecastFolder &source = sourceOf(row);
+    if (const auto fate = fateIn(source.traits().state, Fate::Missing))
+        return *fate;
+    const QStringView name = QStringView(row.file.path).sliced(row.file.nameAt);
+    Entry *entry = source.find(name);
+    // Of two rows of one file the first one moves it.
+    if (!entry || !entry->isThere || entry->row != number)
+        return Fate::Missing;
+    if (row.newName == name)
+        return Fate::Unchanged;
+    ForecastFolder &target = targetOf(row);
+    if (const auto fate = fateIn(target.traits().state, Fate::NoFolder))
+        return *fate;
+    const QString path = row.file.sibling(row.newName);
+    return claim({row.file, source, target, name, entry, QStringView(row.newName).sliced(seen.lastPartAt),
+                  path, seen.lastPartAt > 0},
+                 number);
+}
+
+Fate Plan::claim(const FolderStep &step, int number)
+{
+    Row &row = rows[static_cast<size_t>(number)];
+    if (const auto refusal = step.refusalOfWay())
+        return *refusal;
+    if (const auto refusal = step.refusalOfName())
+        return *refusal;
+    if (step.entry->kind == Kind::Folder &&
+        QDir::cleanPath(row.file.sibling(row.newName)).startsWith(row.file.path + u'/'))
+        return Fate::NotAllowed;
+    const bool canChangeCase = step.isChangeOfCase();
+    row.blocker = step.target.claim(step.newName, number);
+    if (row.blocker >= 0)
+        return Fate::TakenByRow;
+    const Entry *place = step.target.find(step.newName);
+    row.isOwnName = place->isThere && place->row == number && &step.source == &step.target && !canChangeCase;
+    return Fate::Renamed;
+}
+
+/// Who has the name now that a row claimed.
+void Plan::findBlocker(int number)
+{
+    Row &row = rows[static_cast<size_t>(number)];
+    if (row.fate != Fate::Renamed)
+        return;
+    const qsizetype lastPartAt = NewName(row.newName).lastPartAt;
+    const Entry *place = targetOf(row).find(QStringView(row.newName).sliced(lastPartAt));
+    if (!place->isThere || place->row == number)
+        return;
+    if (place->row < 0) {
+        row.fate = Fate::Taken;
+        return;
+    }
+    row.blocker = place->row;
+    rows[static_cast<size_t>(place->row)].waiter = number;
+}
+
+/// Whoever waits for the name of a row that stays does so, too.
+void Plan::refuseWaiters(int number)
+{
+    while (rows[static_cast<size_t>(number)].fate != Fate::Renamed) {
+        const int waiter = std::exchange(rows[static_cast<size_t>(number)].waiter, -1);
+        if (waiter < 0)
+            return;
+        rows[static_cast<size_t>(waiter)].fate = Fate::TakenByRow;
+        number = waiter;
+    }
+}
+
+/// A line begins with the row whose new name is free; what is left when all lines are ordered are rings. The
+/// first of a ring waits for the name of the next: they are ordered as a line is, from its other end.
+void Plan::orderFrom(int number, bool isRing)
+{
+    const Row &first = rows[static_cast<size_t>(number)];
+    if (first.fate != Fate::Renamed || first.isOrdered || (!isRing && first.blocker >= 0))
+        return;
+    const auto begin = static_cast<qsizetype>(ordered.size());
+    for (int next = number; next >= 0 && !rows[static_cast<size_t>(next)].isOrdered;) {
+        Row &row = rows[static_cast<size_t>(next)];
+        row.isOrdered = true;
+        ordered.push_back(next);
+        next = row.waiter;
+    }
+    orderedGroups.push_back({begin, static_cast<qsizetype>(ordered.size()), isRing});
+}
