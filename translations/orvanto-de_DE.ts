@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>In der Zwischenablage sind keine Dateien</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Dateien hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Ordner hinzufügen …</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Rückgängig, Wiederherstellen und frühere Läufe</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Dateien und Ordner hinzufügen</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Dateien sortieren</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Ziehen Sie Dateien oder Ordner hierher, oder drücken Sie Strg+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Wählen Sie oben eine Art von Regel, füllen Sie ihre Felder aus und drücken Sie „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Schreibtisch</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Bitte prüfen Sie den Dateinamen.</translation>
         <source>Show </source>
         <translation>Zeige </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Der Ordner wurde nicht gefunden.
+Bitte prüfen Sie, ob der Name stimmt.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Bitte prüfen Sie den Dateinamen.</translation>
     <message>
         <source>Shift</source>
         <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Runter</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Bitte prüfen Sie den Dateinamen.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Dieses Muster würde zu lange dauern: Es wird nichts ändern.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Groß- und Kleinbuchstaben werden unterschieden; gefunden wird so viel wie möglich.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>ein beliebiges Zeichen</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>der Punkt selbst</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>eines dieser Zeichen</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>jedes andere Zeichen</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>eine Ziffer</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>ein Buchstabe, eine Ziffer oder _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>ein Leerzeichen</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>beliebig viele a, auch keines</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>ein a oder mehr</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>ein a oder keines</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>zwei bis vier a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>entweder ab oder cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>der Anfang des Namens</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>das Ende des Namens</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>eine Gruppe: \1 im neuen Text ist, was sie gefunden hat</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Bitte prüfen Sie den Dateinamen.</translation>
     <message>
         <source>Runs…</source>
         <translation>Läufe…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Erweiterung</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Änderungszeit</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Reihenfolge des Hinzufügens</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, aufsteigend</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, absteigend</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>No hay archivos en el portapapeles</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Añadir carpeta</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Añadir archivos</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Añadir archivos…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Añadir carpeta…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Deshacer, rehacer y ejecuciones anteriores</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Añadir archivos y carpetas</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Ordenar los archivos</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Arrastre aquí archivos o carpetas, o pulse Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Elija arriba un tipo de regla, rellene sus campos y pulse «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Carpeta personal</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Escritorio</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Descargas</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Compruebe el nombre del archivo.</translation>
         <source>Show </source>
         <translation>Mostrar </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Elegir</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+No se encontró la carpeta.
+Compruebe que el nombre sea correcto.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Compruebe el nombre del archivo.</translation>
     <message>
         <source>Shift</source>
         <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Arriba</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Abajo</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Supr</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Intro</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Compruebe el nombre del archivo.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Este patrón tardaría demasiado: no cambiará nada.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Se distinguen mayúsculas y minúsculas; se encuentra lo más posible.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>cualquier carácter</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>el propio punto</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>uno de estos caracteres</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>cualquier otro carácter</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>una cifra</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>una letra, una cifra o _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>un espacio</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>cualquier número de a, también ninguna</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>una a o más</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>una a o ninguna</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>de dos a cuatro a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>o bien ab o bien cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>el principio del nombre</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>el final del nombre</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>un grupo: \1 en el texto nuevo es lo que encontró</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Compruebe el nombre del archivo.</translation>
     <message>
         <source>Runs…</source>
         <translation>Ejecuciones…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ruta</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensión</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Fecha de modificación</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Orden de adición</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, ascendente</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, descendente</translation>
     </message>
 </context>
 <context>

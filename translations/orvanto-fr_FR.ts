@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Il n’y a pas de fichiers dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Ajouter un dossier</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Ajouter des fichiers</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Ajouter des fichiers…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Ajouter un dossier…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Annuler, rétablir et exécutions précédentes</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Ajouter des fichiers et des dossiers</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Trier les fichiers</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Déposez ici des fichiers ou des dossiers, ou appuyez sur Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Choisissez ci-dessus un type de règle, remplissez ses champs et appuyez sur « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Dossier personnel</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Bureau</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musique</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Téléchargements</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Veuillez vérifier le nom du fichier.</translation>
         <source>Show </source>
         <translation>Afficher </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Choisir</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Dossier introuvable.
+Vérifiez que son nom est correct.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Veuillez vérifier le nom du fichier.</translation>
     <message>
         <source>Shift</source>
         <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Suppr</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Entrée</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Veuillez vérifier le nom du fichier.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Ce motif prendrait trop de temps&#xa0;: il ne changera rien.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Majuscules et minuscules sont distinguées ; le plus long texte possible est trouvé.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>un caractère quelconque</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>le point lui-même</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>un de ces caractères</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>tout autre caractère</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>un chiffre</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>une lettre, un chiffre ou _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>une espace</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>un nombre quelconque de a, même aucun</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>un a ou plus</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>un a ou aucun</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>de deux à quatre a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>soit ab, soit cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>le début du nom</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>la fin du nom</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>un groupe : \1 dans le nouveau texte est ce qu&apos;il a trouvé</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Veuillez vérifier le nom du fichier.</translation>
     <message>
         <source>Runs…</source>
         <translation>Exécutions…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Chemin</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extension</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Ordre d’ajout</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, croissant</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, décroissant</translation>
     </message>
 </context>
 <context>

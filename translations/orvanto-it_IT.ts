@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Negli appunti non ci sono file</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Aggiungi cartella</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Aggiungi file</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Aggiungi file…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Aggiungi cartella…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Annulla, ripeti ed esecuzioni precedenti</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Aggiungi file e cartelle</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Ordina i file</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Trascinare qui file o cartelle oppure premere Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Scegliere sopra un tipo di regola, compilarne i campi e premere «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Cartella personale</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Scrivania</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musica</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Scaricati</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Verificare il nome del file.</translation>
         <source>Show </source>
         <translation>Mostra </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Scegli</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Cartelle</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Cartella non trovata.
+Controllare che il nome sia corretto.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Verificare il nome del file.</translation>
     <message>
         <source>Shift</source>
         <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Giù</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Canc</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Invio</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Verificare il nome del file.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Questo modello richiederebbe troppo tempo: non cambierà nulla.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Maiuscole e minuscole sono distinte; viene trovato quanto più testo possibile.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>un carattere qualsiasi</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>il punto stesso</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>uno di questi caratteri</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>qualsiasi altro carattere</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>una cifra</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>una lettera, una cifra o _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>uno spazio</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>un numero qualsiasi di a, anche nessuna</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>una a o più</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>una a o nessuna</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>da due a quattro a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ab oppure cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>l&apos;inizio del nome</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>la fine del nome</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>un gruppo: \1 nel nuovo testo è ciò che ha trovato</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Verificare il nome del file.</translation>
     <message>
         <source>Runs…</source>
         <translation>Esecuzioni…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Percorso</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Estensione</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Dimensione</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Data di modifica</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Ordine di aggiunta</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, crescente</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, decrescente</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>クリップボードにファイルがありません</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>フォルダーを追加</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>ファイルを追加…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>フォルダーを追加…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>元に戻す、やり直し、以前の実行</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>ファイルやフォルダーを追加</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>ファイルを並べ替え</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>ここにファイルやフォルダーをドロップするか、Ctrl+O を押してください</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>上でルールの種類を選び、項目を入力して「%1」を押してください</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>ホーム</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>デスクトップ</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>ピクチャ</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>ミュージック</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>ドキュメント</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>ダウンロード</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Please verify the correct file name was given.</source>
         <source>Show </source>
         <translation>表示 </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>選択(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+フォルダーが見つかりません。
+名前が正しいか確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Please verify the correct file name was given.</source>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>このパターンは時間がかかりすぎるため、何も変更されません</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>大文字と小文字は区別され、できるだけ長い部分が見つかります。</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>任意の 1 文字</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>ピリオドそのもの</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>これらの文字のどれか</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>それ以外の文字</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>文字、数字または _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>a の 0 回以上の繰り返し</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>a の 1 回以上の繰り返し</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>a が 1 つ、またはなし</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>a の 2 ～ 4 回の繰り返し</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ab または cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>名前の先頭</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>名前の末尾</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>グループ: 新しい文字列の \1 は見つかった部分</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>実行の一覧…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>パス</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>拡張子</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>更新日時</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>追加した順</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1 (昇順)</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1 (降順)</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Er staan geen bestanden op het klembord</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Map toevoegen</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Bestanden toevoegen</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Bestanden toevoegen…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Ongedaan maken, opnieuw en eerdere uitvoeringen</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Bestanden en mappen toevoegen</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Bestanden sorteren</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Sleep bestanden of mappen hierheen, of druk op Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Kies hierboven een soort regel, vul de velden in en druk op ‘%1’</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Persoonlijke map</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Bureaublad</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Afbeeldingen</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muziek</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenten</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Controleer de bestandsnaam.</translation>
         <source>Show </source>
         <translation>Toon </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Kiezen</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Mappen</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+De map is niet gevonden.
+Controleer of de naam klopt.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Controleer de bestandsnaam.</translation>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Omhoog</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Omlaag</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Controleer de bestandsnaam.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Dit patroon zou te lang duren: het zal niets wijzigen.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Hoofdletters en kleine letters verschillen; er wordt zoveel mogelijk gevonden.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>een willekeurig teken</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>de punt zelf</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>een van deze tekens</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>elk ander teken</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>een cijfer</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>een letter, een cijfer of _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>een spatie</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>een willekeurig aantal a&apos;s, ook geen</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>een of meer a&apos;s</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>een a of geen</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>twee tot vier a&apos;s</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ab of cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>het begin van de naam</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>het einde van de naam</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>een groep: \1 in de nieuwe tekst is wat die vond</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Controleer de bestandsnaam.</translation>
     <message>
         <source>Runs…</source>
         <translation>Uitvoeringen…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pad</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensie</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Grootte</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Wijzigingstijd</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Volgorde van toevoegen</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, oplopend</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, aflopend</translation>
     </message>
 </context>
 <context>

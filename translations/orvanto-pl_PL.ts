@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl_PL" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>W schowku nie ma plików</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Dodaj katalog</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Dodaj pliki</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Dodaj pliki…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Dodaj katalog…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Cofnij, ponów i wcześniejsze przebiegi</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Dodaj pliki i katalogi</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Sortuj pliki</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Upuść tu pliki lub foldery albo naciśnij Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Wybierz powyżej rodzaj reguły, wypełnij jej pola i naciśnij „%1”</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Folder domowy</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Pulpit</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Obrazy</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muzyka</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Pobrane</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Sprawdź nazwę pliku.</translation>
         <source>Show </source>
         <translation>Pokaż </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Wybierz</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Katalogi</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Nie znaleziono katalogu.
+Sprawdź, czy nazwa jest poprawna.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Sprawdź nazwę pliku.</translation>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Góra</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Dół</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Sprawdź nazwę pliku.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Ten wzorzec zająłby zbyt dużo czasu: niczego nie zmieni.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Wielkie i małe litery są rozróżniane; znajdowany jest jak najdłuższy tekst.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>dowolny znak</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>sama kropka</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>jeden z tych znaków</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>każdy inny znak</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>cyfra</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>litera, cyfra lub _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>odstęp</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>dowolna liczba liter a, także żadna</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>jedna litera a lub więcej</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>jedna litera a lub żadna</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>od dwóch do czterech liter a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>albo ab, albo cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>początek nazwy</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>koniec nazwy</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>grupa: \1 w nowym tekście to, co znalazła</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Sprawdź nazwę pliku.</translation>
     <message>
         <source>Runs…</source>
         <translation>Przebiegi…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Ścieżka</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Rozszerzenie</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Rozmiar</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Czas modyfikacji</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Kolejność dodawania</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, rosnąco</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, malejąco</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Não há arquivos na área de transferência</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Adicionar pasta</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Adicionar arquivos</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Adicionar arquivos…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Adicionar pasta…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Desfazer, refazer e execuções anteriores</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Adicionar arquivos e pastas</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Ordenar os arquivos</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Solte arquivos ou pastas aqui ou pressione Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Escolha acima um tipo de regra, preencha os campos e pressione “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Pasta pessoal</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Área de trabalho</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imagens</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Verifique o nome do arquivo.</translation>
         <source>Show </source>
         <translation>Mostrar </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Escolher</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Pastas</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Pasta não encontrada.
+Verifique se o nome está correto.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Verifique o nome do arquivo.</translation>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Seta para cima</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Seta para baixo</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Verifique o nome do arquivo.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Este padrão levaria tempo demais: não mudará nada.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Maiúsculas e minúsculas são diferenciadas; encontra-se o máximo possível.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>qualquer caractere</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>o próprio ponto</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>um destes caracteres</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>qualquer outro caractere</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>um dígito</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>uma letra, um dígito ou _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>um espaço</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>qualquer número de a, inclusive nenhum</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>um a ou mais</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>um a ou nenhum</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>de dois a quatro a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ou ab ou cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>o início do nome</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>o fim do nome</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>um grupo: \1 no novo texto é o que ele encontrou</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Verifique o nome do arquivo.</translation>
     <message>
         <source>Runs…</source>
         <translation>Execuções…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Caminho</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Extensão</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Data de modificação</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Ordem de adição</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, crescente</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, decrescente</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>В буфере обмена нет файлов</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Добавить папку</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Добавить файлы</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Добавить файлы…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Добавить папку…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Отмена, повтор и прежние запуски</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Добавить файлы и папки</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Сортировать файлы</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Перетащите сюда файлы или папки либо нажмите Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Выберите выше вид правила, заполните его поля и нажмите «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Домашняя папка</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Рабочий стол</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Изображения</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Документы</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Загрузки</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Please verify the correct file name was given.</source>
         <source>Show </source>
         <translation>Показать </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Выбрать</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Папки</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Папка не найдена.
+Проверьте, верно ли указано имя.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Please verify the correct file name was given.</source>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Этот шаблон занял бы слишком много времени: он ничего не изменит.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Заглавные и строчные буквы различаются; находится как можно больше.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>любой символ</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>сама точка</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>один из этих символов</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>любой другой символ</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>цифра</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>буква, цифра или _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>пробел</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>сколько угодно букв a, в том числе ни одной</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>одна буква a или больше</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>одна буква a или ни одной</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>от двух до четырёх букв a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>либо ab, либо cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>начало имени</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>конец имени</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>группа: \1 в новом тексте — то, что она нашла</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>Запуски…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Путь</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Расширение</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Время изменения</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Порядок добавления</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, по возрастанию</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, по убыванию</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>Panoda dosya yok</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Klasör ekle</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Dosya ekle</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Dosya ekle…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Klasör ekle…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Geri al, yinele ve önceki çalıştırmalar</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Dosya ve klasör ekle</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Dosyaları sırala</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Dosyaları veya klasörleri buraya bırakın ya da Ctrl+O tuşlarına basın</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Yukarıdan bir kural türü seçin, alanlarını doldurun ve “%1” düğmesine basın</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Ana klasör</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Masaüstü</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Resimler</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Müzik</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Belgeler</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>İndirilenler</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Lütfen dosya adını denetleyin.</translation>
         <source>Show </source>
         <translation>Göster </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Seç</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Klasörler</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Klasör bulunamadı.
+Lütfen adın doğru olup olmadığını denetleyin.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Lütfen dosya adını denetleyin.</translation>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Yukarı</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Aşağı</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Lütfen dosya adını denetleyin.</translation>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Bu desen çok uzun sürer: hiçbir şeyi değiştirmeyecek.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Büyük ve küçük harfler ayırt edilir; olabildiğince çok bulunur.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>herhangi bir karakter</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>noktanın kendisi</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>bu karakterlerden biri</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>başka herhangi bir karakter</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>bir rakam</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>bir harf, rakam veya _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>bir boşluk</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>herhangi bir sayıda a, hiç de olabilir</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>bir veya daha çok a</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>bir a ya da hiç</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>iki ile dört arası a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ya ab ya da cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>adın başı</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>adın sonu</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>bir grup: yeni metindeki \1, onun bulduğudur</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Lütfen dosya adını denetleyin.</translation>
     <message>
         <source>Runs…</source>
         <translation>Çalıştırmalar…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Yol</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Uzantı</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Boyut</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Değiştirilme zamanı</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Ekleme sırası</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, artan</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, azalan</translation>
     </message>
 </context>
 <context>

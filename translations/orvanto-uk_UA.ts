@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk_UA" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>У буфері обміну немає файлів</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>Додати теку</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>Додати файли</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>Додати файли…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>Додати теку…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>Скасування, повторення та попередні запуски</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>Додати файли й теки</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>Упорядкувати файли</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>Перетягніть сюди файли або теки чи натисніть Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>Виберіть вище вид правила, заповніть його поля й натисніть «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>Домашня тека</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Стільниця</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Зображення</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музика</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Документи</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Завантаження</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Please verify the correct file name was given.</source>
         <source>Show </source>
         <translation>Показати </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>Ви&amp;брати</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>Теки</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Теку не знайдено.
+Перевірте, чи правильно вказано назву.</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вгору</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Please verify the correct file name was given.</source>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>Цей шаблон забрав би забагато часу: він нічого не змінить.</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>Великі й малі літери розрізняються; знаходиться якомога більше.</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>будь-який символ</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>сама крапка</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>один із цих символів</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>будь-який інший символ</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>цифра</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>літера, цифра або _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>пробіл</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>скільки завгодно літер a, зокрема жодної</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>одна літера a або більше</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>одна літера a або жодної</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>від двох до чотирьох літер a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>або ab, або cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>початок імені</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>кінець імені</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>група: \1 у новому тексті — те, що вона знайшла</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>Запуски…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>Назва</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Шлях</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>Розширення</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Розмір</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>Час зміни</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>Порядок додавання</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1, за зростанням</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1, за спаданням</translation>
     </message>
 </context>
 <context>

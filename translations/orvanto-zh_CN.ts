@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AddButton</name>
+    <message>
+        <source>There are no files on the clipboard</source>
+        <translation>剪贴板中没有文件</translation>
+    </message>
+    <message>
+        <source>Add folder</source>
+        <translation>添加文件夹</translation>
+    </message>
+    <message>
+        <source>Add files</source>
+        <translation>添加文件</translation>
+    </message>
+    <message>
+        <source>Add files…</source>
+        <translation>添加文件…</translation>
+    </message>
+    <message>
+        <source>Add folder…</source>
+        <translation>添加文件夹…</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -545,6 +568,50 @@
         <source>Undo, redo and earlier runs</source>
         <translation>撤销、重做和以前的运行</translation>
     </message>
+    <message>
+        <source>Add files and folders</source>
+        <translation>添加文件和文件夹</translation>
+    </message>
+    <message>
+        <source>Sort the files</source>
+        <translation>对文件排序</translation>
+    </message>
+    <message>
+        <source>Drop files or folders here, or press Ctrl+O</source>
+        <translation>将文件或文件夹拖放到此处，或按 Ctrl+O</translation>
+    </message>
+    <message>
+        <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
+        <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
+        <translation>请在上方选择规则类型，填写各项，然后按“%1”</translation>
+    </message>
+</context>
+<context>
+    <name>Places</name>
+    <message>
+        <source>Home</source>
+        <translation>主目录</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>桌面</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音乐</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文档</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>下载</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractFileIconProvider</name>
@@ -737,6 +804,22 @@ Please verify the correct file name was given.</source>
         <source>Show </source>
         <translation>显示 </translation>
     </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>选择(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Directories</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+找不到文件夹。
+请检查名称是否正确。</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -921,6 +1004,26 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Shift</source>
         <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
     </message>
 </context>
 <context>
@@ -1247,6 +1350,70 @@ Please verify the correct file name was given.</source>
         <source>This pattern would take too long: it will change nothing.</source>
         <translation>此模式耗时过长：不会更改任何内容。</translation>
     </message>
+    <message>
+        <source>Upper and lower case differ; as much as possible is found.</source>
+        <translation>区分大小写；尽可能多地匹配。</translation>
+    </message>
+    <message>
+        <source>any character</source>
+        <translation>任意一个字符</translation>
+    </message>
+    <message>
+        <source>the dot itself</source>
+        <translation>点号本身</translation>
+    </message>
+    <message>
+        <source>one of these characters</source>
+        <translation>这些字符之一</translation>
+    </message>
+    <message>
+        <source>any other character</source>
+        <translation>其他任意字符</translation>
+    </message>
+    <message>
+        <source>a digit</source>
+        <translation>一个数字</translation>
+    </message>
+    <message>
+        <source>a letter, a digit or _</source>
+        <translation>字母、数字或 _</translation>
+    </message>
+    <message>
+        <source>a blank</source>
+        <translation>一个空白</translation>
+    </message>
+    <message>
+        <source>any number of a, also none</source>
+        <translation>任意多个 a，也可没有</translation>
+    </message>
+    <message>
+        <source>one a or more</source>
+        <translation>一个或多个 a</translation>
+    </message>
+    <message>
+        <source>one a or none</source>
+        <translation>一个 a 或没有</translation>
+    </message>
+    <message>
+        <source>two to four a</source>
+        <translation>两到四个 a</translation>
+    </message>
+    <message>
+        <source>either ab or cd</source>
+        <translation>ab 或 cd</translation>
+    </message>
+    <message>
+        <source>the beginning of the name</source>
+        <translation>名称的开头</translation>
+    </message>
+    <message>
+        <source>the end of the name</source>
+        <translation>名称的结尾</translation>
+    </message>
+    <message>
+        <source>a group: \1 in the new text is what it found</source>
+        <translation>分组：新文本中的 \1 就是它找到的内容</translation>
+    </message>
 </context>
 <context>
     <name>Runs</name>
@@ -1437,6 +1604,41 @@ Please verify the correct file name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>运行记录…</translation>
+    </message>
+</context>
+<context>
+    <name>SortMenu</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+    <message>
+        <source>Extension</source>
+        <translation>扩展名</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Time of modification</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Order of adding</source>
+        <translation>添加顺序</translation>
+    </message>
+    <message>
+        <source>%1, ascending</source>
+        <translation>%1，升序</translation>
+    </message>
+    <message>
+        <source>%1, descending</source>
+        <translation>%1，降序</translation>
     </message>
 </context>
 <context>

@@ -38,9 +38,14 @@ QT_TRANSLATE_NOOP("QWidgetTextControl", "&Copy")
 QT_TRANSLATE_NOOP("QWidgetTextControl", "Copy &Link Location")
 QT_TRANSLATE_NOOP("QWidgetTextControl", "Select All")
 
-// Keys in the shortcuts that these menus show, as in "Ctrl+Shift+Z".
+// Keys in the shortcuts that menus and tool tips show, as in "Ctrl+Shift+Z".
 QT_TRANSLATE_NOOP("QShortcut", "Ctrl")
 QT_TRANSLATE_NOOP("QShortcut", "Shift")
+QT_TRANSLATE_NOOP("QShortcut", "Alt")
+QT_TRANSLATE_NOOP("QShortcut", "Up")
+QT_TRANSLATE_NOOP("QShortcut", "Down")
+QT_TRANSLATE_NOOP("QShortcut", "Del")
+QT_TRANSLATE_NOOP("QShortcut", "Return")
 
 // The context menu of a scroll bar.
 QT_TRANSLATE_NOOP("QScrollBar", "Scroll here")
@@ -107,7 +112,11 @@ QT_TRANSLATE_NOOP("QFileDialog", "Look in:")
 QT_TRANSLATE_NOOP("QFileDialog", "Parent Directory")
 QT_TRANSLATE_NOOP("QFileDialog", "Show &hidden files")
 QT_TRANSLATE_NOOP("QFileDialog", "Sidebar")
+QT_TRANSLATE_NOOP("QFileDialog", "&Choose")
+QT_TRANSLATE_NOOP("QFileDialog", "Directories")
 QT_TRANSLATE_NOOP("QFileDialog", "Directory:")
 QT_TRANSLATE_NOOP("QFileDialog", "%1 already exists.\nDo you want to replace it?")
 QT_TRANSLATE_NOOP("QFileDialog", "%1\nFile not found.\nPlease verify the correct file name was given.")
+QT_TRANSLATE_NOOP("QFileDialog",
+                  "%1\nDirectory not found.\nPlease verify the correct directory name was given.")
 QT_TRANSLATE_NOOP("QFileDialog", "Show ")

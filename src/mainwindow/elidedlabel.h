@@ -7,12 +7,12 @@
 
 /// One line of plain text that takes the room that there is: what does not fit is left out in its middle, or
 /// in the middle of both of its names, and is in the tool tip.
-class ElidedLabel final : public QLabel
+class ElidedLabel : public QLabel
 {
     Q_OBJECT
 
 public:
-    explicit ElidedLabel(QWidget *parent);
+    explicit ElidedLabel(QWidget *parent = nullptr);
 
     /// Two names with something between them that is always seen.
     void setNames(const QString &left, const QString &between, const QString &right);

@@ -229,8 +229,9 @@ void ExplorerModel::updateRows()
     while (!updates.empty() && timer.nsecsElapsed() < longestSlice) {
         if (changeRange(updates.front()))
             continue;
-        finish(updates.front().node);
+        Node *node = updates.front().node;
         updates.pop_front();
+        finish(node);
     }
     cost += timer.nsecsElapsed();
     if (!updates.empty())
@@ -289,6 +290,7 @@ void ExplorerModel::finish(Node *node)
 {
     jobs.remove(node->job);
     node->job = 0;
+    emit folderRead(indexOf(node));
 }
 
 /// Lets no work that is in hand reach a row that goes, nor the rows below it.

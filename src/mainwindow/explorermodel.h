@@ -53,6 +53,10 @@ public:
     [[nodiscard]] QMimeData *mimeData(const QModelIndexList &indexes) const override;
     [[nodiscard]] Qt::DropActions supportedDragActions() const override;
 
+signals:
+    /// Its rows are those that it was last read with; nothing need have changed.
+    void folderRead(const QModelIndex &folder);
+
 private:
     struct Node
     {

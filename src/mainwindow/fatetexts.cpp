@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QTextBoundaryFinder>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -170,7 +171,37 @@ QString closeText()
     return Fates::tr("Close");
 }
 
+namespace {
+
+/// Behind separators, and within names that are longer than any line.
+QString breakableAnywhere(const QString &path)
+{
+    constexpr int longestPart = 40;
+    constexpr QChar place(0x200b); // zero width
+    QString text;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, path);
+    int part = 0;
+    for (qsizetype from = 0, to = letters.toNextBoundary(); to > 0;
+         from = to, to = letters.toNextBoundary()) {
+        text += QStringView(path).sliced(from, to - from);
+        const bool isSeparator = path.at(from) == QDir::separator();
+        part = isSeparator || part == longestPart ? 0 : part + 1;
+        if (part == 0)
+            text += place;
+    }
+    return text;
+}
+
+} // namespace
+
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? "<qt>"_L1 + text.toHtmlEscaped() + "</qt>"_L1 : text;
+}
+
+QString rowToolTip(const QString &sentence, const QString &path)
+{
+    const QString breakable = breakableAnywhere(QDir::toNativeSeparators(path)).toHtmlEscaped();
+    const QString first = sentence.isEmpty() ? QString() : sentence.toHtmlEscaped() + "<br>"_L1;
+    return "<qt>"_L1 + first + breakable + "</qt>"_L1;
 }

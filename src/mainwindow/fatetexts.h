@@ -48,3 +48,5 @@ struct FateCounts
 
 /// As a tool tip that shows markup as it is.
 [[nodiscard]] QString plainToolTip(const QString &text);
+/// The sentence, which may be empty, and below it the path, in as many lines as it needs.
+[[nodiscard]] QString rowToolTip(const QString &sentence, const QString &path);

@@ -6,13 +6,16 @@
 #include "mainwindow/fatetexts.h"
 #include "mainwindow/listwidgetfiles.h"
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 
-FileItem::FileItem(const QString &path, const RowText &shown)
+FileItem::FileItem(const QString &path, const RowText &shown, quint32 number)
+    : filePath(path)
+    , text(shown.text)
+    , nameAt(static_cast<int>(shown.nameAt))
+    , numberOfAdding(number)
 {
-    QListWidgetItem::setData(Qt::UserRole, path);
-    text = shown.text;
-    nameAt = static_cast<int>(shown.nameAt);
 }
 
 FileItem *FileItem::clone() const
@@ -26,6 +29,8 @@ QVariant FileItem::data(int role) const
     case Qt::DisplayRole:
     case Qt::EditRole:
         return rowText();
+    case Qt::UserRole:
+        return filePath;
     case FateRole:
         return isTold() ? QVariant(idOf(toldFate)) : QVariant();
     case MarkRole:
@@ -35,7 +40,7 @@ QVariant FileItem::data(int role) const
     case Qt::AccessibleDescriptionRole:
         return sentence();
     case Qt::ToolTipRole:
-        return plainToolTip(sentence());
+        return rowToolTip(sentence(), path());
     default:
         return QListWidgetItem::data(role);
     }
@@ -43,13 +48,40 @@ QVariant FileItem::data(int role) const
 
 void FileItem::setData(int role, const QVariant &value)
 {
-    // The path decides what a text that waits would be.
     settle();
+    if (role == Qt::UserRole) {
+        setPath(value.toString());
+        if (const QListWidget *list = listWidget()) {
+            const QModelIndex index = list->indexFromItem(this);
+            emit list->model()->dataChanged(index, index, {role});
+        }
+        return;
+    }
     if (role == Qt::DisplayRole || role == Qt::EditRole) {
         text = value.toString();
         nameAt = 0;
     }
     QListWidgetItem::setData(role, value);
+}
+
+void FileItem::setPath(const QString &path)
+{
+    // The path decides what a text that waits would be.
+    settle();
+    filePath = path;
+}
+
+auto FileItem::contents()
+{
+    return std::tie(filePath, awaited, text, nameAt, awaitedRow, numberOfAdding, age, toldFate, toldReason,
+                    otherRow, isPast);
+}
+
+void FileItem::swapWith(FileItem &other)
+{
+    auto mine = contents();
+    auto its = other.contents();
+    mine.swap(its);
 }
 
 void FileItem::awaitText(const std::shared_ptr<const RowNames> &names, int row)

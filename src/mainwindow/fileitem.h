@@ -26,15 +26,20 @@ public:
         OldNameRole,
     };
 
-    FileItem(const QString &path, const RowText &shown);
+    /// The number tells in which order the rows were added.
+    FileItem(const QString &path, const RowText &shown, quint32 numberOfAdding);
 
     [[nodiscard]] FileItem *clone() const override;
     [[nodiscard]] QVariant data(int role) const override;
     void setData(int role, const QVariant &value) override;
 
-    [[nodiscard]] QString path() const { return QListWidgetItem::data(Qt::UserRole).toString(); }
+    [[nodiscard]] const QString &path() const { return filePath; }
+    [[nodiscard]] quint32 number() const { return numberOfAdding; }
     // Whoever calls these tells the model, or shows the texts himself.
 
+    void setPath(const QString &path);
+    /// Each row becomes the other one: the list need not be told that rows have moved, nor be laid out.
+    void swapWith(FileItem &other);
     /// Lets the text wait.
     void awaitText(const std::shared_ptr<const RowNames> &names, int row);
     void setRowText(const RowText &shown);
@@ -51,15 +56,19 @@ public:
     [[nodiscard]] FateMark mark() const;
 
 private:
+    /// All that makes the row.
+    [[nodiscard]] auto contents();
     [[nodiscard]] bool isTold() const;
     [[nodiscard]] QString sentence() const;
     [[nodiscard]] QVariant oldName() const;
 
+    QString filePath;
     /// Null where the text does not wait.
     mutable std::shared_ptr<const RowNames> awaited;
     mutable QString text;
     mutable int nameAt = 0;
     int awaitedRow = 0;
+    quint32 numberOfAdding = 0;
 
     /// Of the list's fates; 0: none was ever told.
     int age = 0;

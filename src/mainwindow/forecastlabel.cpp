@@ -30,7 +30,6 @@ ForecastLabel::ForecastLabel(const Fates &ofFates, ListWidgetFiles &ofList)
     , list(ofList)
 {
     setObjectName(u"labelForecast"_s);
-    setTextFormat(Qt::PlainText);
     later.setSingleShot(true);
     connect(&later, &QTimer::timeout, this, &ForecastLabel::refresh);
     connect(&fates, &Fates::changed, this, &ForecastLabel::refresh);
@@ -55,7 +54,7 @@ void ForecastLabel::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         refresh();
-    QLabel::changeEvent(event);
+    ElidedLabel::changeEvent(event);
 }
 
 void ForecastLabel::refresh()

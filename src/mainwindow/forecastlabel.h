@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QLabel>
+#include "mainwindow/elidedlabel.h"
+
 #include <QTimer>
 
 class Fates;
@@ -11,7 +12,7 @@ class ListWidgetFiles;
 
 /// The status bar's account of the file list: what the run will come to or, while Preview is up, how many
 /// files are selected. A click goes to the next row in trouble, as F8 does; Shift+F8 goes back.
-class ForecastLabel final : public QLabel
+class ForecastLabel final : public ElidedLabel
 {
     Q_OBJECT
 

@@ -54,7 +54,8 @@ bool ListWidgetFiles::containsPath(const QString &path) const
 
 QString ListWidgetFiles::path(int row) const
 {
-    return item(row)->data(Qt::UserRole).toString();
+    const FileItem *file = fileItem(row);
+    return file ? file->path() : item(row)->data(Qt::UserRole).toString();
 }
 
 void ListWidgetFiles::removeSelected()
@@ -83,7 +84,7 @@ void ListWidgetFiles::removeSelected()
 void ListWidgetFiles::appendRow(const QString &path, const QString &text)
 {
     includeWidth(text);
-    addItem(new FileItem(path, {FilePath::of(path), text, false}));
+    addItem(new FileItem(path, {FilePath::of(path), text, false}, ++numberOfLast));
 }
 
 void ListWidgetFiles::showAddedRows()
@@ -151,6 +152,12 @@ QRect ListWidgetFiles::visualRect(const QModelIndex &index) const
     return rect;
 }
 
+void ListWidgetFiles::handOver(const QMimeData *files)
+{
+    const QScopedValueRollback handling(handlesDrop, true);
+    emit contentChanged(files);
+}
+
 bool ListWidgetFiles::isHandlingDrop() const
 {
     return handlesDrop;
@@ -170,7 +177,10 @@ void ListWidgetFiles::setRowText(int row, const RowText &text)
 void ListWidgetFiles::setPath(int row, const QString &path)
 {
     const QSignalBlocker quiet(model());
-    item(row)->setData(Qt::UserRole, path);
+    if (FileItem *file = fileItem(row))
+        file->setPath(path);
+    else
+        item(row)->setData(Qt::UserRole, path);
     knownPaths.reset();
 }
 
@@ -214,8 +224,7 @@ void ListWidgetFiles::dragLeaveEvent(QDragLeaveEvent * /*event*/) {}
 
 void ListWidgetFiles::dropEvent(QDropEvent *event)
 {
-    const QScopedValueRollback handling(handlesDrop, true);
-    emit contentChanged(event->mimeData());
+    handOver(event->mimeData());
     event->acceptProposedAction();
 }
 

@@ -56,6 +56,8 @@ public:
     [[nodiscard]] int ageOfFates() const { return age; }
     void forgetFates();
 
+    /// Has files added as those of a drop are.
+    void handOver(const QMimeData *files);
     /// Whether a drop is being handled: until then the window system's drag and drop needs the native window.
     [[nodiscard]] bool isHandlingDrop() const;
 
@@ -99,4 +101,6 @@ private:
     /// Where it is not that of the last layout; otherwise 0.
     int rowWidth = 0;
     int age = 1;
+    /// Of adding.
+    quint32 numberOfLast = 0;
 };

@@ -11,13 +11,21 @@
 #include "desktop/taskbar.h"
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/activerules.h"
+#include "mainwindow/addbutton.h"
+#include "mainwindow/buttontips.h"
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/commandids.h"
+#include "mainwindow/commandkeys.h"
 #include "mainwindow/editorlayout.h"
+#include "mainwindow/emptyhint.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/explorermodel.h"
+#include "mainwindow/explorerroad.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/forecastlabel.h"
+#include "mainwindow/handbookkey.h"
+#include "mainwindow/logrows.h"
+#include "mainwindow/placesrow.h"
 #include "mainwindow/progressdialog.h"
 #include "mainwindow/ruleedit.h"
 #include "mainwindow/ruleexample.h"
@@ -26,9 +34,12 @@
 #include "mainwindow/ruleswitches.h"
 #include "mainwindow/ruletreedrag.h"
 #include "mainwindow/runhistory.h"
+#include "mainwindow/smallscreen.h"
+#include "mainwindow/sortmenu.h"
 #include "mainwindow/takingback.h"
 #include "mainwindow/undobuttons.h"
 #include "mainwindow/wholetextdelegate.h"
+#include "mainwindow/windowdrops.h"
 #include "rules/rule.h"
 #include "rules/rulechain.h"
 #include "ui_mainwindow.h"
@@ -81,10 +92,13 @@ MainWindow::~MainWindow()
 void MainWindow::initialize()
 {
     createExplorer();
+    createHints();
     createUndo();
     connect(ui->listWidgetFiles, &ListWidgetFiles::contentChanged, this, &MainWindow::onFileListAdded);
     addDockWidget(Qt::RightDockWidgetArea, dockExplorer);
     createRules();
+    createWaysIn();
+    addHandbookKey(this);
     retranslateExplorer();
     ui->tabWidgetMain->setMinimumSize(ui->tabWidgetMain->sizeHint());
     ui->treeWidgetRules->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
@@ -98,11 +112,13 @@ void MainWindow::initialize()
     adjustToTexts();
     taskbarList = TaskbarList::create(winId());
     ui->tableWidgetLog->setItemDelegate(new WholeTextDelegate(ui->tableWidgetLog));
+    fitRowsToMessages(ui->tableWidgetLog);
     ui->tableWidgetLog->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     logTimer = new QTimer(this);
     logTimer->setInterval(logTimerInterval);
     logTimer->start();
     connect(logTimer, &QTimer::timeout, this, &MainWindow::onTimeout);
+    new SmallScreen(this, *ui);
 }
 
 void MainWindow::createExplorer()
@@ -125,6 +141,19 @@ void MainWindow::createExplorer()
     auto *model = new ExplorerModel(this);
     treeExplorer->setModel(model);
     explorer = new Explorer(treeExplorer, model);
+    auto *road = new ExplorerRoad(treeExplorer, model, QDir::homePath());
+    auto *places = new PlacesRow(contents);
+    layout->addWidget(places);
+    connect(places, &PlacesRow::chosen, road, &ExplorerRoad::goTo);
+}
+
+void MainWindow::createHints()
+{
+    new EmptyHint(ui->listWidgetFiles, [] { return tr("Drop files or folders here, or press Ctrl+O"); });
+    new EmptyHint(ui->treeWidgetRules, [] {
+        //: %1 is the text of the button "Add"
+        return tr("Choose a kind of rule above, fill in its fields and press \"%1\"").arg(tr("Add"));
+    });
 }
 
 void MainWindow::createUndo()
@@ -134,6 +163,16 @@ void MainWindow::createUndo()
                             }};
     takingBack = std::make_unique<TakingBack>(parts, *runHistory);
     new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack);
+}
+
+void MainWindow::createWaysIn()
+{
+    new AddButton(ui->buttonAddFiles, *ui->listWidgetFiles);
+    new WindowDrops(*ui->listWidgetFiles, treeExplorer);
+    new SortMenu(ui->buttonSort, *ui->listWidgetFiles, *ui->buttonPreview,
+                 [this] { on_buttonPreview_clicked(); });
+    addRunKeys(*ui->listWidgetFiles, ui->buttonPreview, ui->buttonRename);
+    addExplorerKeys(treeExplorer);
 }
 
 void MainWindow::createRules()
@@ -230,6 +269,7 @@ void MainWindow::createLogo()
     commandMapper->setMapping(buttonLogo, VisitHome);
     ui->toolBar->setMinimumWidth(ui->toolBar->minimumSizeHint().width() +
                                  buttonLogo->minimumSizeHint().width() + 64);
+    addTabStops(ui->toolBar);
 }
 
 void MainWindow::retranslateExplorer()
@@ -260,6 +300,7 @@ void MainWindow::adjustToTexts()
     // Its minimum width hides from the layout what a longer text needs.
     ui->buttonRename->setMinimumWidth(std::max(renameButtonWidth, ui->buttonRename->sizeHint().width()));
     buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));
+    setButtonTips(this);
 }
 
 void MainWindow::onTimeout()

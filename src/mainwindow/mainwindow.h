@@ -17,7 +17,6 @@ class ActiveRules;
 class Explorer;
 class Fates;
 class ProgressDialog;
-class QDialog;
 class QPushButton;
 class QSignalMapper;
 class QTreeView;
@@ -91,7 +90,9 @@ protected:
 
 private:
     void createExplorer();
+    void createHints();
     void createUndo();
+    void createWaysIn();
     void createRules();
     void watchRules();
     void createMappers();
@@ -108,8 +109,6 @@ private:
 
     void retranslateTrayMenu();
     void adoptDialogs();
-    /// Each before those that it opened itself.
-    [[nodiscard]] QList<QDialog *> openDialogs() const;
     void raiseDialogs();
     void restoreWindowGeometry();
     void saveWindowSettings();

@@ -7,6 +7,7 @@
 #include "core/settingsstore.h"
 #include "dialogs/dialognotice.h"
 #include "dialogs/dialogsettings.h"
+#include "mainwindow/opendialogs.h"
 #include "mainwindow/progressdialog.h"
 #include "mainwindow/rulesetmenu.h"
 #include "mainwindow/savedstate.h"
@@ -145,16 +146,9 @@ void MainWindow::adoptDialogs()
     }
 }
 
-QList<QDialog *> MainWindow::openDialogs() const
-{
-    QList<QDialog *> dialogs = findChildren<QDialog *>();
-    dialogs.removeIf([](const QDialog *dialog) { return dialog->isHidden(); });
-    return dialogs;
-}
-
 void MainWindow::raiseDialogs()
 {
-    const auto dialogs = openDialogs();
+    const auto dialogs = openDialogs(this);
     for (QDialog *dialog : dialogs) {
         dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
         dialog->raise();
@@ -172,7 +166,7 @@ void MainWindow::minimizeWindow()
     // The native window that is made anew stands where the frame of the old one did.
     if (placeBeforeTray.isEmpty())
         placeBeforeTray = saveGeometry();
-    const auto dialogs = openDialogs();
+    const auto dialogs = openDialogs(this);
     for (QDialog *dialog : dialogs)
         dialog->setWindowState(dialog->windowState() | Qt::WindowMinimized);
     // Changing the flags hides the window.

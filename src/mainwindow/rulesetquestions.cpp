@@ -109,7 +109,7 @@ QString RuleSetQuestions::fileToWrite(QWidget *parent, const QString &name)
 {
     QFileDialog dialog(parent, tr("Save rule set"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    return choose(&dialog, QString(name).replace(u'/', u'_') + ruleSetSuffix).value(0);
+    return choose(&dialog, fileNameOfSet(name) + ruleSetSuffix).value(0);
 }
 
 QStringList RuleSetQuestions::importFiles(QWidget *parent, const RuleSetFolder &folder,

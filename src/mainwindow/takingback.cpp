@@ -6,6 +6,7 @@
 #include "core/applog.h"
 #include "desktop/messagebox.h"
 #include "dialogs/runtexts.h"
+#include "mainwindow/aside.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/fates.h"
 #include "mainwindow/fatetexts.h"
@@ -19,7 +20,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QHash>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <limits>
@@ -80,16 +80,10 @@ private:
 UndoRun::Begun beginAside(JournalFolder &journals, const QString &journal, Disk &disk)
 {
     UndoRun::Begun begun;
-    bool isDone = false;
-    QObject here;
-    QThreadPool aside;
-    aside.start([&] {
-        begun = UndoRun::begin(journals, journal, disk, QCoreApplication::applicationVersion());
-        QMetaObject::invokeMethod(&here, [&isDone] { isDone = true; });
-    });
-    while (!isDone)
+    const Aside aside(
+        [&] { begun = UndoRun::begin(journals, journal, disk, QCoreApplication::applicationVersion()); });
+    while (!aside.isDone())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    aside.waitForDone();
     return begun;
 }
 

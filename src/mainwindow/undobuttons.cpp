@@ -5,6 +5,7 @@
 
 #include "dialogs/dialogruns.h"
 #include "dialogs/runtexts.h"
+#include "mainwindow/buttontips.h"
 #include "mainwindow/fatetexts.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/takingback.h"
@@ -64,7 +65,8 @@ void UndoButtons::showHistory()
 {
     const auto &undoable = history.undoable();
     buttonUndo->setEnabled(undoable.has_value());
-    buttonUndo->setToolTip(undoable ? plainToolTip(takeBackText(*undoable)) : QString());
+    const QString tip = tipWithKeys(undoable ? takeBackText(*undoable) : undoText(), actionUndo->shortcuts());
+    buttonUndo->setToolTip(plainToolTip(tip));
     actionUndo->setEnabled(undoable.has_value());
     actionRedo->setEnabled(history.redoable().has_value());
 }

@@ -9,6 +9,12 @@
 
 using namespace Qt::StringLiterals;
 
+QString WholeTextDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    const QString text = QStyledItemDelegate::displayText(value, locale);
+    return text.endsWith(QChar::LineSeparator) ? text.chopped(1) : text;
+}
+
 bool WholeTextDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
                                   const QStyleOptionViewItem &option, const QModelIndex &index)
 {

@@ -13,6 +13,9 @@ class WholeTextDelegate final : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// Without the line break that a line of the log may end with.
+    [[nodiscard]] QString displayText(const QVariant &value, const QLocale &locale) const override;
+
 protected:
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;

@@ -7,7 +7,7 @@ import unittest
 
 from harness.case import Case
 from harness.hands import middle_of
-from harness.mainwindow import MainWindow
+from harness.mainwindow import REPORT, MainWindow
 from harness.program import Program
 from harness.settingsdialog import SettingsDialog
 from harness.tray import QUIT, RESTORE, Tray
@@ -182,7 +182,11 @@ class InTheTray(TrayCase):
         self.assertEqual(window.report_text(), "Total 20000\nProcessed 20000\nFailed 0")
         tray.click()
         until(lambda: window.frame.has("showing"), "the main window to be back")
-        window.close_report()
+        # By mouse: the focus may come later than the windows.
+        report = self.program.window(REPORT, "Report")
+        window.hands.click(report.one("push button", "Close"))
+        until(lambda: not [w for w in self.program.windows if w.role == REPORT], "the report to close")
+        until(lambda: window.frame.has("active"), "the main window to be active")
         self.close()
 
     def test_quit_by_the_menu_keeps_the_place(self):

@@ -308,10 +308,26 @@ void showRules(MainWindow *window)
     showBox(u"rules-unsaved"_s, load, expectWholeButtons);
 }
 
+/// What stands beside the home folder comes and goes.
+void closeExplorerTree(const MainWindow *window)
+{
+    auto *tree = child<QTreeView>(window, "treeExplorer");
+    const auto isOpen = [tree] {
+        return tree->isExpanded(tree->model()->index(0, 0));
+    };
+    if (!QTest::qWaitFor(isOpen, 20000))
+        fail(u"the explorer does not open the home folder"_s);
+    tree->collapse(tree->model()->index(0, 0));
+}
+
 void showMainWindow(MainWindow *window)
 {
     tidyLog(window);
     auto *kinds = child<QComboBox>(window, "comboBoxRules");
+    // It comes with the first turn of the event loop after the rows.
+    const auto *example = child<QLabel>(window, "labelRuleExample");
+    if (!QTest::qWaitFor([example] { return !example->text().isEmpty(); }, 20000))
+        fail(u"no example of a rule's work"_s);
     for (int kind = 0; kind < kinds->count(); ++kind) {
         kinds->setCurrentIndex(kind);
         window->on_buttonAddRule_clicked();
@@ -440,6 +456,7 @@ int main(int argc, char **argv)
     application.init();
     const TempTree files;
     MainWindow *window = topLevel<MainWindow>();
+    closeExplorerTree(window);
     if (only != "rules"_L1)
         showForecast(window);
     if (only.isEmpty() || only == "rules"_L1)

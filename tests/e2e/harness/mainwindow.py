@@ -45,8 +45,8 @@ class MainWindow:
         return self.files.child(row)
 
     def file_button(self, which):
-        """One of the buttons around the file list: "filter" stands above it, "undo" and "runs" below."""
-        names = ["filter", "up", "remove", "down", "clear", "undo", "runs"]
+        """One of the buttons around the file list: the first ones stand above it, "undo" and "runs" below."""
+        names = ["filter", "add", "sort", "up", "remove", "down", "clear", "undo", "runs"]
         buttons = [b for b in self.files_panel.all("push button") if b.name != "Rename"]
         if len(buttons) != len(names):
             raise Gone(f"the file list has {len(buttons)} tool buttons")

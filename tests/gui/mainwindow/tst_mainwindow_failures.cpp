@@ -6,6 +6,7 @@
 #include "mainwindow/fileitem.h"
 #include "support/drivenwindow.h"
 #include "support/modalanswer.h"
+#include "support/rowtip.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -98,10 +99,10 @@ private slots:
                                       u"missing"_s};
         QCOMPARE(whileBoxIsOpen, expected);
         QVERIFY(!window->preview()->isChecked());
-        QCOMPARE(data(1, Qt::ToolTipRole), u"Not renamed: the name is taken."_s);
-        QCOMPARE(data(3, Qt::ToolTipRole), u"Keeps its name."_s);
+        QVERIFY(tipIs(window->files()->item(1), u"Not renamed: the name is taken."_s));
+        QVERIFY(tipIs(window->files()->item(3), u"Keeps its name."_s));
         QCOMPARE(data(5, Qt::AccessibleDescriptionRole), u"Not renamed: the file is not there."_s);
-        QCOMPARE(data(0, Qt::ToolTipRole), QString());
+        QVERIFY(tipIs(window->files()->item(0), {}));
         QCOMPARE(window->rowTexts(), QStringList({u"first"_s, u"2"_s, u"3"_s, u"x"_s, u"y"_s, u"gone"_s}));
         window->get()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window->get()));

@@ -198,6 +198,10 @@ private slots:
                                     << QSize(16, 24) << false << false;
         QTest::newRow("buttonRuns") << tool << no << u"Undo, redo and earlier runs"_s << u"runs"_s << 16
                                     << QSize(16, 24) << false << false;
+        QTest::newRow("buttonAddFiles")
+            << tool << no << u"Add files and folders"_s << u"add_files"_s << 20 << square << false << false;
+        QTest::newRow("buttonSort") << tool << no << u"Sort the files"_s << u"sort"_s << 20 << square << false
+                                    << false;
         QTest::newRow("checkBoxSaveLog")
             << check << u"Save"_s << u"Save logs"_s << u"save"_s << 20 << none << true << false;
         QTest::newRow("checkBoxDebug") << check << u"Debug"_s << u"Include debug messages"_s << u"debug"_s
@@ -320,7 +324,10 @@ private slots:
         QCOMPARE(itemNames(window->child<QVBoxLayout>("verticalLayout")),
                  QStringList({u"horizontalLayout_8"_s, u"horizontalLayout_9"_s, u"horizontalLayout_2"_s}));
         QCOMPARE(itemNames(window->child<QHBoxLayout>("horizontalLayout_8")),
-                 QStringList({u"label"_s, u"lineEditFileFilter"_s, u"buttonFileFilterClear"_s, u"-"_s}));
+                 QStringList({u"label"_s, u"lineEditFileFilter"_s, u"buttonFileFilterClear"_s, u"-"_s,
+                              u"layoutAddFiles"_s}));
+        QCOMPARE(itemNames(window->child<QHBoxLayout>("layoutAddFiles")),
+                 QStringList({u"buttonAddFiles"_s, u"buttonSort"_s}));
         QCOMPARE(itemNames(window->child<QHBoxLayout>("horizontalLayout_9")),
                  QStringList({u"listWidgetFiles"_s, u"verticalLayout_8"_s}));
         QCOMPARE(itemNames(window->child<QVBoxLayout>("verticalLayout_8")),

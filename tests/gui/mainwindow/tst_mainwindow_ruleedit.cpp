@@ -243,7 +243,7 @@ private slots:
         window->addChangeCase(&RuleWidgetChangeCase::radioButtonLower);
         window->addInsert({});
         window->addEnumerate(0);
-        window->drop({tree->addFile(u"xaby 12.txt"_s)});
+        window->drop({tree->addFile(u"xaby 12.tXT"_s)});
         window->click("buttonPreview");
         show();
         for (int row = 0; row < 5; ++row) {

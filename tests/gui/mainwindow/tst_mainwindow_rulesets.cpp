@@ -147,6 +147,11 @@ private:
     }
 
 private slots:
+    void initTestCase()
+    {
+        // Nobody but a person can answer those of the system.
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    }
     void init()
     {
         settings = std::make_unique<TestSettings>();
@@ -299,6 +304,24 @@ private slots:
         QVERIFY(box.isDone());
     }
 
+    // The chain is kept as "Last used", the files are where they were.
+    void closeAsksNothingAndLosesNothing()
+    {
+        window->drop({tree->addFile(u"file"_s)});
+        window->addInsert(u"a"_s);
+        saveAs(u"A"_s);
+        window->addInsert(u"b"_s);
+        const ModalAnswer question([](QDialog *) {});
+        end();
+        QVERIFY(!question.isDone());
+        QCOMPARE(tree->content(u"file"_s), QByteArray("file"));
+        choose(u"A"_s);
+        QCOMPARE(inserted(), u"a"_s);
+        choose(u"Last used"_s);
+        QCOMPARE(inserted(), u"ab"_s);
+        QCOMPARE(window->files()->count(), 0);
+    }
+
     void nothingIsLoadedFromABadFile()
     {
         window->addInsert(u"a"_s);
@@ -399,17 +422,38 @@ private slots:
         QCOMPARE(inserted(), u"x(y)"_s);
     }
 
+    void exportedFileHasANameForAnySystem()
+    {
+        window->addInsert(u"a"_s);
+        saveAs(u"What? / a:b"_s);
+        manage([](QDialog *dialog) {
+            QString proposed;
+            const ModalAnswer answer([&proposed](QDialog *files) {
+                proposed = files->findChild<QLineEdit *>(u"fileNameEdit"_s)->text();
+                files->reject();
+            });
+            dialog->findChild<QPushButton *>(u"buttonExportRuleSet"_s)->click();
+            QVERIFY(answer.isDone());
+            QCOMPARE(proposed, u"What_ _ a_b.orvanto-rules"_s);
+        });
+    }
+
     void droppedSetIsImported()
     {
         const QString path = tree->addFile(u"two.orvanto-rules"_s, twoRules);
-        QVERIFY(!dropOnRules({tree->addFile(u"other.txt"_s)}));
+        // Anything else is for the list of files, as on the rest of the window.
+        const QString other = tree->addFile(u"other.txt"_s);
+        QVERIFY(dropOnRules({other}));
+        QTRY_COMPARE(window->rowPaths(), QStringList{other});
+        QCOMPARE(inserted(), QString());
         QVERIFY(dropOnRules({path}));
         QTRY_COMPARE(inserted(), u"x(y)"_s);
+        QCOMPARE(window->rowPaths(), QStringList{other});
         QCOMPARE(tree->names(u"rulesets"_s).size(), 1);
         QCOMPARE(readFile(path), twoRules);
         // On the list of files it is a file as ever.
         window->drop({path});
-        QCOMPARE(window->rowPaths(), QStringList{path});
+        QCOMPARE(window->rowPaths(), (QStringList{other, path}));
     }
 
     void textsFollowTheLanguage()

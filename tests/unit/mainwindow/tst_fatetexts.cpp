@@ -3,9 +3,12 @@
 
 #include "mainwindow/fatemark.h"
 #include "mainwindow/fatetexts.h"
+#include "support/rowtip.h"
 
 #include <QPainter>
+
 #include <QTest>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -61,6 +64,27 @@ private slots:
                  u"128 files: 119 will be renamed, 3 keep their names, 5 cannot, 1 unknown"_s);
         QCOMPARE(countsText(1, {0, 1, 0, 0}), u"1 file: 0 will be renamed, 1 keeps its name, 0 cannot"_s);
         QCOMPARE(selectionText(128, 4), u"128 files, 4 selected"_s);
+    }
+
+    void rowSaysItsSentenceAndItsWholePath()
+    {
+        const QString path = u"/home/ann/<b>My</b> & others/a.txt"_s;
+        QCOMPARE(tipLines(rowToolTip({}, path)), QStringList(QDir::toNativeSeparators(path)));
+        QCOMPARE(tipLines(rowToolTip(u"Stays: row 1 takes the name <b>."_s, path)),
+                 QStringList({u"Stays: row 1 takes the name <b>."_s, QDir::toNativeSeparators(path)}));
+    }
+
+    // However long the names: as one line it would lie off the screen.
+    void longPathCanBreakItsLines()
+    {
+        const QString letter = QString::fromUcs4(U"e\u0301"); // two characters that belong together
+        const QString path = u"/home/"_s + u"x"_s.repeated(255) + u'/' + letter.repeated(120);
+        QTextDocument tip;
+        tip.setHtml(rowToolTip({}, path));
+        tip.setTextWidth(300);
+        QVERIFY2(tip.idealWidth() <= 320, qPrintable(QString::number(tip.idealWidth())));
+        QVERIFY(!rowToolTip({}, path).contains(u"e\u200b"_s));
+        QCOMPARE(tipLines(rowToolTip({}, path)), QStringList(QDir::toNativeSeparators(path)));
     }
 
     void everyFateHasItsMark()

@@ -226,20 +226,25 @@ void TestQtTexts::dockButtons()
 void TestQtTexts::fileDialog_data()
 {
     QTest::addColumn<QFileDialog::AcceptMode>("mode");
+    QTest::addColumn<QFileDialog::FileMode>("fileMode");
     QTest::addColumn<QString>("name");
-    QTest::newRow("open") << QFileDialog::AcceptOpen << u"not there"_s;
-    QTest::newRow("save") << QFileDialog::AcceptSave << u"there"_s;
+    QTest::newRow("open") << QFileDialog::AcceptOpen << QFileDialog::ExistingFile << u"not there"_s;
+    QTest::newRow("open several") << QFileDialog::AcceptOpen << QFileDialog::ExistingFiles << u"not there"_s;
+    QTest::newRow("folder") << QFileDialog::AcceptOpen << QFileDialog::Directory << u"not there"_s;
+    QTest::newRow("save") << QFileDialog::AcceptSave << QFileDialog::AnyFile << u"there"_s;
 }
 
 void TestQtTexts::fileDialog()
 {
     QFETCH(const QFileDialog::AcceptMode, mode);
+    QFETCH(const QFileDialog::FileMode, fileMode);
     QFETCH(const QString, name);
     const TestFolder folder;
     folder.addFile(u"there"_s);
     QFileDialog dialog(nullptr, u"Title"_s, folder.path());
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
     dialog.setAcceptMode(mode);
+    dialog.setFileMode(fileMode);
     dialog.setViewMode(QFileDialog::Detail);
     dialog.show();
     const auto *tree = dialog.findChild<QTreeView *>(u"treeView"_s);
