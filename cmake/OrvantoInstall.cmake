@@ -22,7 +22,7 @@ string(TIMESTAMP ORVANTO_CHANGELOG_DATE "%a, %d %b %Y 00:00:00 +0000" UTC)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_INSTALL_CMAKE_PROJECTS
-    "${PROJECT_BINARY_DIR};orvanto;ALL;/" "${PROJECT_BINARY_DIR};orvanto;debian;/")
+    "${PROJECT_BINARY_DIR};orvanto;Unspecified;/" "${PROJECT_BINARY_DIR};orvanto;debian;/")
 set(CPACK_PACKAGE_NAME orvanto)
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_PACKAGE_VENDOR Kavrondel)
@@ -53,6 +53,9 @@ set(programFolder "lib/orvanto")
 install(TARGETS orvanto RUNTIME DESTINATION "${programFolder}")
 install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale" DESTINATION "${programFolder}"
     FILES_MATCHING PATTERN "*.qm" PATTERN "*.png")
+install(FILES "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/handbook.html" DESTINATION "${programFolder}")
+install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/handbook" DESTINATION "${programFolder}"
+    FILES_MATCHING PATTERN "*.png")
 file(RELATIVE_PATH linkTarget "/${CMAKE_INSTALL_BINDIR}" "/${programFolder}/orvanto")
 file(MAKE_DIRECTORY "${made}")
 file(CREATE_LINK "${linkTarget}" "${made}/orvanto" SYMBOLIC)
@@ -88,19 +91,26 @@ function(orvanto_compressed file name)
 endfunction()
 
 configure_file("${templates}/orvanto.1.in" "${made}/orvanto.1" @ONLY)
-configure_file("${templates}/changelog.Debian.in" "${made}/changelog.Debian" @ONLY)
+foreach(ORVANTO_PACKAGE orvanto orvanto-cli)
+    set(folder "documents/${ORVANTO_PACKAGE}")
+    configure_file("${templates}/changelog.Debian.in" "${made}/${folder}/changelog.Debian" @ONLY)
+    configure_file("${templates}/lintian-overrides.in" "${made}/${folder}/lintian-overrides" @ONLY)
+    orvanto_compressed("${made}/${folder}/changelog.Debian" "${folder}/changelog.Debian")
+endforeach()
 configure_file("${templates}/copyright.in" "${made}/copyright" @ONLY)
 orvanto_compressed("${made}/orvanto.1" orvanto.1)
-orvanto_compressed("${made}/changelog.Debian" changelog.Debian)
 orvanto_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog)
 add_custom_target(documents ALL
-    DEPENDS "${made}/orvanto.1.gz" "${made}/changelog.Debian.gz" "${made}/changelog.gz")
+    DEPENDS "${made}/orvanto.1.gz" "${made}/changelog.gz"
+        "${made}/documents/orvanto/changelog.Debian.gz" "${made}/documents/orvanto-cli/changelog.Debian.gz")
 install(FILES "${made}/orvanto.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES "${made}/changelog.gz" "${made}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
 # What a Debian package alone needs: "cmake --install" leaves it out, cpack asks for it above.
-install(FILES "${made}/changelog.Debian.gz" DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT debian EXCLUDE_FROM_ALL)
-install(FILES "${templates}/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
+install(FILES "${made}/documents/orvanto/changelog.Debian.gz" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+    COMPONENT debian EXCLUDE_FROM_ALL)
+install(FILES "${made}/documents/orvanto/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
     RENAME orvanto COMPONENT debian EXCLUDE_FROM_ALL)
 
 include(CPack)
+include("${CMAKE_CURRENT_LIST_DIR}/OrvantoInstallCli.cmake")

@@ -6,7 +6,7 @@
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 build_packages=(
-    cmake g++ ninja-build
+    cmake cmark-gfm g++ ninja-build
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-5compat-dev libgl-dev
 )
 run_packages=(fonts-dejavu-core xdg-utils)
@@ -16,7 +16,8 @@ test_packages=(
     at-spi2-core binutils clang-format-14 dbus dbus-bin dbus-daemon dosfstools e2fsprogs exfat-fuse exfatprogs
     fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mold mount ntfs-3g
     openbox procps python3 python3-gi python3-jsonschema python3-pyatspi qt6-wayland qt6ct shared-mime-info trayer
-    util-linux weston wmctrl x11-utils x11-xserver-utils xauth xdg-utils xdotool xkb-data xvfb
+    util-linux weston wmctrl x11-utils x11-xserver-utils xauth xclip xdg-utils xdotool xkb-data xvfb
+    fish man-db time zsh
 )
 analysis_packages=(clang-tidy-14 clazy python3)
 fuzz_packages=(clang-14 fonts-dejavu-core libclang-rt-14-dev python3)

@@ -4,6 +4,7 @@
 #include "fault/faultrun.h"
 #include "support/duringevents.h"
 #include "support/explorerrows.h"
+#include "support/rowtip.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -295,13 +296,13 @@ private slots:
         QCOMPARE(run->window.rowTexts(), QStringList(name));
         QVERIFY(list->sizeHintForIndex(row).width() >= list->fontMetrics().horizontalAdvance(name));
         verifyDrawnAsText(list, row, name);
-        QCOMPARE(toolTipOf(list, row), QString());
+        QCOMPARE(tipLines(toolTipOf(list, row)), QStringList(run->tree.path(name)));
         run->window.addInsert(u"<i>x</i>"_s);
         run->window.click("buttonPreview");
         verifyDrawnAsText(list, row, u"<i>x</i>"_s + name);
         run->window.click("checkBoxShowFullPath");
         QCOMPARE(run->window.rowTexts(), QStringList(run->tree.path(u"<i>x</i>"_s + name)));
-        QCOMPARE(toolTipOf(list, row), QString());
+        QCOMPARE(tipLines(toolTipOf(list, row)), QStringList(run->tree.path(name)));
     }
 
     void markupIsTextInLogReportAndRules()
