@@ -10,10 +10,12 @@ buildProgram() {
     qtCmake -S "$projectDir" -B "$buildDir" -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s \
         -DCMAKE_CROSSCOMPILING_EMULATOR="$windowsDir/wine-run"
     ninja -C "$buildDir" -j "$jobs"
-    local program=$buildDir/bin/orvanto.exe
-    [[ -f $program ]] || fail "the build made no $program"
-    requireSystemLibraries "$program"
-    printf 'Built %s (%s bytes)\n' "$program" "$(stat -c %s "$program")"
+    local program
+    for program in "$buildDir"/bin/orvanto.exe "$buildDir"/bin/orvanto-cli.exe; do
+        [[ -f $program ]] || fail "the build made no $program"
+        requireSystemLibraries "$program"
+        printf 'Built %s (%s bytes)\n' "$program" "$(stat -c %s "$program")"
+    done
 }
 
 # requireSystemLibraries PROGRAM: fails when the program needs a DLL that Windows does not have, which would

@@ -25,6 +25,11 @@ class Executable(unittest.TestCase):
     def test_has_no_console(self):
         self.assertRegex(self.header, r"Subsystem\s+00000002\s+\(Windows GUI\)")
 
+    def test_that_of_the_shell_has_a_console(self):
+        header = output("objdump", "-p", PROGRAM.replace("orvanto.exe", "orvanto-cli.exe"))
+        self.assertRegex(header, r"Subsystem\s+00000003\s+\(Windows CUI\)")
+        self.assertNotIn("DLL Name: GDI32.dll", header)
+
     def test_is_placed_at_random_and_runs_no_data(self):
         for flag in ("HIGH_ENTROPY_VA", "DYNAMIC_BASE", "NX_COMPAT"):
             self.assertIn(flag, self.header)

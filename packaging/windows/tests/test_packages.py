@@ -31,7 +31,9 @@ def program_files():
     built = pathlib.Path(os.environ["ORVANTO_PROGRAM"]).parent
     texts = ("README", "LGPL-3", "GPL-3", "Qt", "mingw-w64", "GCC")
     locale = {f"locale/{name}" for name in files_below(built / "locale")}
-    return {"orvanto.exe", "LICENSE.txt"} | {f"licences/{text}.txt" for text in texts} | locale
+    handbook = {f"handbook/{name}" for name in files_below(built / "handbook")} | {"handbook.html"}
+    programs = {"orvanto.exe", "orvanto-cli.exe", "LICENSE.txt"}
+    return programs | {f"licences/{text}.txt" for text in texts} | locale | handbook
 
 
 class Packages(WindowsCase):
