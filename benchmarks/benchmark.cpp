@@ -5,6 +5,7 @@
 
 #include "bench.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -147,6 +149,53 @@ void measureEditing(Bench &bench, const FileTree &tree)
              }));
 }
 
+/// Every other row. The selection itself has persistent indexes, which every removal updates: it is gone
+/// before anything is measured.
+void selectHalf(Bench &bench, int count)
+{
+    QItemSelection selection;
+    for (int row = 0; row < count; row += 2)
+        selection.append(QItemSelectionRange(bench.list->model()->index(row, 0)));
+    bench.list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void measureOrdering(Bench &bench, const FileTree &tree)
+{
+    const std::pair<const char *, const char *> orders[] = {
+        {"sort by name, descending", "actionSortNameDescending"},
+        {"sort by path", "actionSortPath"},
+        {"sort by extension", "actionSortExtension"},
+        {"sort by size", "actionSortSize"},
+        {"sort by name", "actionSortName"},
+        {"sort by time of modification", "actionSortModifiedDescending"},
+        {"sort in the order of adding", "actionSortAdding"}};
+    for (const auto &[job, name] : orders) {
+        auto *action = bench.window.findChild<QAction *>(QString::fromLatin1(name));
+        PauseMeter pauses;
+        printRow(job, tree.count, secondsOf([&] {
+                     action->trigger();
+                     QCoreApplication::processEvents();
+                 }));
+        printPause(tree.count, pauses);
+    }
+    selectHalf(bench, tree.count);
+    const std::pair<const char *, QKeySequence> keys[] = {
+        {"move every other row down", Qt::ALT | Qt::Key_Down},
+        {"move every other row to the top", Qt::ALT | Qt::Key_Home}};
+    const auto shortcuts = bench.list->findChildren<QShortcut *>();
+    for (const auto &[job, key] : keys) {
+        for (QShortcut *shortcut : shortcuts) {
+            if (shortcut->key() == key)
+                printRow(job, tree.count, secondsOf([&] {
+                             emit shortcut->activated();
+                             QCoreApplication::processEvents();
+                         }));
+        }
+    }
+    bench.list->clearSelection();
+    bench.window.findChild<QAction *>(u"actionSortAdding"_s)->trigger();
+}
+
 void measureRun(Bench &bench, const FileTree &tree)
 {
     const double bare = bareRename(tree);
@@ -165,13 +214,7 @@ void measureRun(Bench &bench, const FileTree &tree)
 void measureRemoving(Bench &bench, const FileTree &tree)
 {
     bench.list->setCurrentRow(0);
-    {
-        // Gone before the measurement: a selection has persistent indexes, which every removal updates.
-        QItemSelection selection;
-        for (int row = 0; row < tree.count; row += 2)
-            selection.append(QItemSelectionRange(bench.list->model()->index(row, 0)));
-        bench.list->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
-    }
+    selectHalf(bench, tree.count);
     printRow("remove every other row", tree.count, secondsOf([&] { bench.window.onClickedFileList(4); }));
     bench.list->selectAll();
     printRow("remove all rows", tree.count / 2, secondsOf([&] { bench.window.onClickedFileList(4); }));
@@ -183,7 +226,7 @@ void measureRemoving(Bench &bench, const FileTree &tree)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", OFFSCREEN_PLATFORM);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QTemporaryDir dataDirectory;
     QDir::setCurrent(dataDirectory.path());
@@ -196,6 +239,7 @@ int main(int argc, char **argv)
         Bench bench;
         measureAdding(bench, tree);
         measureEditing(bench, tree);
+        measureOrdering(bench, tree);
         measureRun(bench, tree);
         measureRemoving(bench, tree);
     }

@@ -19,12 +19,14 @@ import time
 ROUNDS = 5
 BARE, RUN, DROP_AND_RUN = "renameat2 alone", "Orvanto: Rename pressed", "Orvanto: drop and Rename"
 JOURNAL, UNDO = "Orvanto: with journal", "Orvanto: undo"
+SHELL = "orvanto-cli apply"
 NAMES = "find . -mindepth 1 -printf '%f\\0'"
 PEERS = {
     "mmv": ["mmv", "*", "new_#1"],
     "rename (Perl)": ["sh", "-c", NAMES + " | file-rename --null 's/^/new_/'"],
     "rename (util-linux)": ["sh", "-c", NAMES + " | xargs -0 rename.ul '' new_"],
     "vidir": ["vidir", "."],
+    SHELL: ["orvanto-cli", "apply", "--yes", "--quiet", "--insert", "new_@0", "."],
 }
 EDITOR = """#!/bin/sh
 exec sed -i 's,\\./,./new_,' "$1"
@@ -59,9 +61,10 @@ def restore(folder, count, undone):
 def seconds_of(tool, folder, programs, editor):
     """What the tool took: one figure for each row of the table."""
     if tool in PEERS:
+        environment = {**os.environ, "EDITOR": editor, "VISUAL": editor, "PATH": f"{programs}:{os.environ['PATH']}",
+                       "XDG_DATA_HOME": str(folder.parent)}
         begin = time.monotonic()
-        subprocess.run(PEERS[tool], cwd=folder, check=True, stdout=subprocess.DEVNULL,
-                       env={**os.environ, "EDITOR": editor, "VISUAL": editor})
+        subprocess.run(PEERS[tool], cwd=folder, check=True, stdout=subprocess.DEVNULL, env=environment)
         return {tool: time.monotonic() - begin}
     program = "orvanto_benchmark_bare" if tool == BARE else "orvanto_benchmark_run"
     words = {RUN: ["unrecorded"], UNDO: ["undo"]}.get(tool, [])

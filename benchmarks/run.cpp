@@ -3,7 +3,7 @@
 
 // Puts "new_" before the name of every file below a folder, by the Rename button of a real main window, and
 // prints the seconds that adding the files and renaming them took.
-// Usage: orvanto_benchmark_run folder [open] [unrecorded] [undo]
+// Usage: orvanto_benchmark_run folder [open] [unrecorded | undo]
 // With "open" the folder is open in the explorer's dock; with "unrecorded" no journal can be written; with
 // "undo" the run is taken back, and printed are, too: what that took, the longest pause of the run, and that
 // of the undo.
@@ -21,12 +21,12 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", OFFSCREEN_PLATFORM);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments().sliced(1);
-    if (words.isEmpty()) {
-        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder [open] [unrecorded] [undo]\n");
+    if (words.isEmpty() || (words.contains(u"unrecorded"_s) && words.contains(u"undo"_s))) {
+        std::fprintf(stderr, "Usage: orvanto_benchmark_run folder [open] [unrecorded | undo]\n");
         return 2;
     }
     const QString folder = QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath();

@@ -6,6 +6,7 @@
 import pathlib
 import select
 import statistics
+import subprocess
 import sys
 import tempfile
 import time
@@ -66,6 +67,23 @@ def measure(desktop, screen, binary, home):
     return seconds, *memory
 
 
+def measure_shell(programs, rounds):
+    """From the start of a program without a window to its end."""
+    commands = {"empty Qt Core program": [programs / "orvanto_benchmark_core"],
+                "orvanto-cli --version": [programs / "orvanto-cli", "--version"]}
+    figures = {title: [] for title in commands}
+    for number in range(10 * rounds + 1):
+        for title, command in commands.items():
+            begin = time.monotonic()
+            subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
+            if number > 0:
+                figures[title].append(time.monotonic() - begin)
+    print("\n| program | from start to end, median | fastest to slowest |\n|---|---:|---:|")
+    for title, seconds in figures.items():
+        print(f"| {title} | {statistics.median(seconds) * 1e3:.1f} ms "
+              f"| {min(seconds) * 1e3:.1f} to {max(seconds) * 1e3:.1f} ms |")
+
+
 def main():
     programs = pathlib.Path(sys.argv[1]).resolve()
     rounds = int(sys.argv[2]) if len(sys.argv) > 2 else 15
@@ -95,6 +113,7 @@ def main():
         median = statistics.median(seconds)
         print(f"| {title} | {median * 1e3:.0f} ms | {min(seconds) * 1e3:.0f} to {max(seconds) * 1e3:.0f} ms "
               f"| {median / bare:.2f} | {statistics.median(proportional):.1f} MiB | {statistics.median(own):.1f} MiB |")
+    measure_shell(programs, rounds)
 
 
 main()

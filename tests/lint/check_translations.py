@@ -16,18 +16,18 @@ LANGUAGES = "de_DE es_ES fr_FR it_IT ja_JP nl_NL pl_PL pt_BR ru_RU tr_TR uk_UA z
 
 # Words that are the same in English and in the language. Keep it short: everything else must be translated.
 SAME = {
-    "de_DE": {"Info", "Plugins", "Debug", "Name", "OK", "Position", "Text"},
-    "es_ES": {"&No", "General", "Total", "Ctrl"},
-    "fr_FR": {"Type", "Photo", "Code", "Message", "Total", "OK", "Ctrl", "Position"},
-    "it_IT": {"Computer", "File", "&No", "1 file", "Debug", "OK", "Ctrl"},
-    "ja_JP": {"OK", "Ctrl", "Shift"},
-    "nl_NL": {"Type", "Computer", "Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later"},
-    "pl_PL": {"Folder", "OK", "Ctrl", "Shift"},
-    "pt_BR": {"Plugins", "Total", "OK", "Ctrl", "Shift"},
-    "ru_RU": {"Ctrl", "Shift"},
-    "tr_TR": {"Ctrl", "Shift"},
-    "uk_UA": {"Ctrl", "Shift"},
-    "zh_CN": {"Ctrl", "Shift"},
+    "de_DE": {"Info", "Downloads", "Plugins", "Debug", "Name", "OK", "Position", "Text", "Alt"},
+    "es_ES": {"&No", "General", "Total", "Ctrl", "Alt"},
+    "fr_FR": {"Type", "Documents", "Photo", "Code", "Extension", "Message", "Total", "OK", "Ctrl", "Position", "Alt"},
+    "it_IT": {"Computer", "File", "&No", "1 file", "Debug", "OK", "Ctrl", "Alt"},
+    "ja_JP": {"OK", "Ctrl", "Shift", "Alt"},
+    "nl_NL": {"Type", "Downloads", "Computer", "Info", "Code", "Debug", "OK", "Ctrl", "Shift", "Later", "Alt"},
+    "pl_PL": {"Folder", "OK", "Ctrl", "Shift", "Alt"},
+    "pt_BR": {"Plugins", "Downloads", "Total", "OK", "Ctrl", "Shift", "Alt"},
+    "ru_RU": {"Ctrl", "Shift", "Alt"},
+    "tr_TR": {"Ctrl", "Shift", "Alt"},
+    "uk_UA": {"Ctrl", "Shift", "Alt"},
+    "zh_CN": {"Ctrl", "Shift", "Alt"},
 }
 
 # Contexts whose texts share a menu: two entries with the same underlined letter would block each other.
