@@ -297,6 +297,11 @@ void MainWindow::adjustToTexts()
         if (QWidget *button = ui->toolBar->widgetForAction(action); button && !action->statusTip().isEmpty())
             button->setAccessibleName(action->statusTip());
     }
+    ui->listWidgetFiles->setAccessibleName(ui->groupBox->title());
+    ui->treeWidgetRules->setAccessibleName(ui->groupBox_3->title());
+    ui->tableWidgetLog->setAccessibleName(ui->dockWidgetLog->windowTitle());
+    if (dockExplorer)
+        treeExplorer->setAccessibleName(dockExplorer->windowTitle());
     // Its minimum width hides from the layout what a longer text needs.
     ui->buttonRename->setMinimumWidth(std::max(renameButtonWidth, ui->buttonRename->sizeHint().width()));
     buttonLogo->setAccessibleName(QCoreApplication::translate("DialogSettings", "Visit our website"));

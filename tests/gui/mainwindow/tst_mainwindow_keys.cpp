@@ -6,6 +6,7 @@
 #include "support/faketranslator.h"
 #include "support/modalanswer.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QClipboard>
 #include <QStatusBar>
@@ -137,6 +138,28 @@ private slots:
                      qPrintable(button->toolTip()));
         }
         QVERIFY(seen >= 20);
+    }
+
+    void whatTabReachesHasANameForScreenReaders()
+    {
+        const FakeTranslator translator(
+            [](QLatin1StringView, const QString &text) { return text.toUpper(); });
+        QCoreApplication::processEvents();
+        int seen = 0;
+        for (const RuleKind kind : {ReplaceKind, TrimKind, ChangeCaseKind, InsertTextKind, EnumerateKind}) {
+            QVERIFY(window->chooseKind(kind));
+            const auto widgets = window->get()->findChildren<QWidget *>();
+            for (QWidget *widget : widgets) {
+                // The tab widget hands the focus on to its tabs, a spin box to the field in it.
+                if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus) || widget->focusProxy() ||
+                    qobject_cast<QAbstractSpinBox *>(widget->parent()))
+                    continue;
+                ++seen;
+                const QString name = QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+                QVERIFY2(!name.isEmpty() && name == name.toUpper(), qPrintable(widget->objectName() + name));
+            }
+        }
+        QVERIFY(seen > 150);
     }
 
     void toolTipsFollowTheLanguage()
