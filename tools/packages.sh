@@ -11,12 +11,13 @@ build_packages=(
 )
 run_packages=(fonts-dejavu-core xdg-utils)
 benchmark_packages=(gnuplot-nox mmv mold moreutils python3 rename util-linux)
-virtual_display_packages=(openbox xauth xvfb)
+virtual_display_packages=(novnc openbox python3 websockify x11vnc xvfb)
 test_packages=(
     at-spi2-core binutils clang-format-14 dbus dbus-bin dbus-daemon dosfstools e2fsprogs exfat-fuse exfatprogs
     fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mold mount ntfs-3g
-    openbox procps python3 python3-gi python3-jsonschema python3-pyatspi qt6-wayland qt6ct shared-mime-info trayer
-    util-linux weston wmctrl x11-utils x11-xserver-utils xauth xclip xdg-utils xdotool xkb-data xvfb
+    novnc openbox procps python3 python3-cryptography python3-gi python3-jsonschema python3-pyatspi qt6-wayland qt6ct
+    shared-mime-info trayer util-linux websockify weston wmctrl x11-utils x11vnc x11-xserver-utils xclip xdg-utils
+    xdotool xkb-data xvfb
     fish man-db time zsh
 )
 analysis_packages=(clang-tidy-14 clazy python3)
@@ -34,8 +35,8 @@ ensure_packages() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET: configures when needed and builds; says nothing when there is nothing to do.
+# build PRESET [OPTION...]: configures when needed and builds; the options go to the building.
 build() {
     cmake --preset "$1" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; return 1; }
-    cmake --build --preset "$1"
+    cmake --build --preset "$@"
 }

@@ -96,7 +96,7 @@ QString zshAction(Proposal proposal, const QString &words)
 QString zshText(const QString &text)
 {
     QString result = text;
-    for (const QChar special : u"\\[]:"_s)
+    for (const QChar special : QStringView(u"\\[]:"))
         result.replace(special, u'\\' + QString(special));
     return result;
 }

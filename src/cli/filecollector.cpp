@@ -71,7 +71,9 @@ void FileCollector::addFolder(const QString &path)
     while (goOn() && scan.next() != Scan::Step::End)
         progress.show("Files", list.count() + scan.count());
     leftOut += scan.foldersLeftOut();
-    for (const QString &file : scan.takePaths())
+    const QStringList files = scan.takePaths();
+    list.expect(files.size());
+    for (const QString &file : files)
         list.add(file.toUtf8());
 }
 

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QHash>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,10 +31,20 @@ PathList::PathList(const QString &currentFolder)
 {
 }
 
+void PathList::expect(qsizetype more)
+{
+    const size_t names = begins.size() + static_cast<size_t>(more);
+    size_t size = table.size();
+    while (names * 2 > size)
+        size *= 2;
+    if (size > table.size())
+        growTable(size);
+}
+
 bool PathList::add(const QByteArray &path)
 {
     if (begins.size() * 2 > table.size())
-        growTable();
+        growTable(table.size() * 2);
     int &place = table.at(placeOf(path));
     if (place >= 0)
         return false;
@@ -49,6 +61,18 @@ QString PathList::given(int row) const
 
 FilePath PathList::file(int row) const
 {
+    // Asked several times for each file: where there is one separator, names of plain letters are put at once
+    // where they belong.
+    if (QDir::separator() == u'/') {
+        const QByteArrayView bytes = at(row);
+        const QByteArrayView rest = bytes.sliced(bytes.startsWith("./") ? 2 : 0);
+        const qsizetype before = bytes.startsWith('/') ? 0 : folder.size();
+        QString path(before + rest.size(), Qt::Uninitialized);
+        if (writeAscii(rest, path.data() + before)) {
+            std::copy_n(folder.constData(), before, path.data());
+            return filePaths.split(path);
+        }
+    }
     const QString path = QDir::fromNativeSeparators(given(row));
     if (isAbsolute(path))
         return filePaths.split(path);
@@ -83,9 +107,9 @@ size_t PathList::placeOf(QByteArrayView path) const
     return place;
 }
 
-void PathList::growTable()
+void PathList::growTable(size_t size)
 {
-    table.assign(table.size() * 2, -1);
+    table.assign(size, -1);
     for (int number = 0; number < count(); ++number)
         table.at(placeOf(pathAt(number))) = number;
 }

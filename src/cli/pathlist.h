@@ -17,6 +17,8 @@ public:
     /// Relative paths are those of the folder, which is absolute.
     explicit PathList(const QString &currentFolder);
 
+    /// So many paths come: the table need not grow step by step.
+    void expect(qsizetype more);
     /// In UTF-8, or in bytes that are no text. False where the file is listed already.
     bool add(const QByteArray &path);
     [[nodiscard]] int count() const { return static_cast<int>(begins.size()) - 1; }
@@ -37,7 +39,8 @@ private:
     [[nodiscard]] QByteArrayView keyOf(QByteArrayView path) const;
     /// Where the path is in the table, or would be.
     [[nodiscard]] size_t placeOf(QByteArrayView path) const;
-    void growTable();
+    /// To a power of two.
+    void growTable(size_t size);
 
     QString folder;
     QByteArray folderBytes;

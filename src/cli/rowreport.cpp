@@ -123,7 +123,7 @@ void RowReport::trouble(const ReportedRow &row)
 
 QString RowReport::pairText(const ReportedRow &row, bool isColored) const
 {
-    const QString old = shellQuoted(row.oldPath);
+    QString old = shellQuoted(row.oldPath);
     if (row.newPath == row.oldPath)
         return old;
     return old + colored(u" → "_s, faint, isColored) +

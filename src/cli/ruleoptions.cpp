@@ -118,7 +118,7 @@ Parameters readCase(const QStringList &values, RuleReader &reader)
 
 Parameters readInsert(const QStringList &values, RuleReader &reader)
 {
-    const QString value = values.at(0);
+    const QString &value = values.at(0);
     const qsizetype at = value.lastIndexOf(u'@');
     QStringList parts = value.sliced(at + 1).split(u',');
     const bool fromEnd = RuleReader::takeWord(parts, "end"_L1);

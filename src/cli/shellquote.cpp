@@ -133,7 +133,8 @@ QString withEscapes(const QString &text)
         const QStringView whole = QStringView(text).sliced(i, isPair ? 2 : 1);
         if (isUnprintable(character)) {
             setEscaping(true);
-            for (const char byte : bytesOfText(whole))
+            const QByteArray bytes = bytesOfText(whole);
+            for (const char byte : bytes)
                 result += escaped(static_cast<uchar>(byte));
         } else if (whole == u"'") {
             isEscaping = false;

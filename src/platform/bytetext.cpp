@@ -5,6 +5,8 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
+
 namespace {
 
 constexpr char16_t firstByteHalf = 0xDC80;
@@ -78,4 +80,15 @@ QByteArray bytesOfText(QStringView text)
     }
     bytes.append(text.sliced(begin).toUtf8());
     return bytes;
+}
+
+QChar *writeAscii(QByteArrayView bytes, QChar *to)
+{
+    // Both loops go through several bytes at once.
+    uchar all = 0;
+    for (const char byte : bytes)
+        all |= static_cast<uchar>(byte);
+    if (all >= 0x80)
+        return nullptr;
+    return std::transform(bytes.begin(), bytes.end(), to, [](char byte) { return QChar(QLatin1Char(byte)); });
 }

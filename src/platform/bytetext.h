@@ -12,3 +12,7 @@
 
 /// The bytes again. Other halves, which names on Windows can hold, take three bytes that are no UTF-8.
 [[nodiscard]] QByteArray bytesOfText(QStringView text);
+
+/// Writes the characters of bytes that are all ASCII, as those of most paths are, and returns where they end:
+/// at a fraction of the cost for other texts. Null where a byte is none; nothing is written then.
+[[nodiscard]] QChar *writeAscii(QByteArrayView bytes, QChar *to);

@@ -3,6 +3,8 @@
 
 #include "platform/folderreader.h"
 
+#include "platform/bytetext.h"
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -146,6 +148,8 @@ public:
             const QByteArrayView bytes(entry->d_name);
             if (bytes == "." || bytes == "..")
                 continue;
+            if (const QChar *end = writeAscii(bytes, name.data()))
+                return FolderEntry{QStringView(name.data(), end), kindOf(entry->d_type)};
             QStringDecoder decoder(QStringDecoder::Utf8,
                                    QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
             const QChar *end = decoder.appendToBuffer(name.data(), bytes);

@@ -46,7 +46,10 @@ void TestPathList::pathsStayAsTheyWereGiven()
 void TestPathList::filesAreThoseOfTheFolder()
 {
     PathList list(u"/home/me"_s);
-    for (const char *path : {"a", "./b", "/x/c", "sub/d", "sub/e", ":y"})
+    for (const char *path : {"a", "./b", "/x/c", "sub/d", "sub/e", ":y", "é",
+                             "\xEF\xBB\xBF"
+                             "f",
+                             "g\xFF", "/x/h\xC3"})
         QVERIFY(list.add(path));
     QStringList files;
     for (int row = 0; row < list.count(); ++row) {
@@ -54,7 +57,9 @@ void TestPathList::filesAreThoseOfTheFolder()
         files.append(file.folder() + u" | "_s + file.name());
     }
     QCOMPARE(files, (QStringList{u"/home/me | a"_s, u"/home/me | b"_s, u"/x | c"_s, u"/home/me/sub | d"_s,
-                                 u"/home/me/sub | e"_s, u"/home/me | :y"_s}));
+                                 u"/home/me/sub | e"_s, u"/home/me | :y"_s, u"/home/me | é"_s,
+                                 u"/home/me | \uFEFFf"_s, u"/home/me | g"_s + QChar(0xDCFF),
+                                 u"/x | h"_s + QChar(0xDCC3)}));
     PathList root(u"/"_s);
     QVERIFY(root.add("a"));
     QVERIFY(!root.add("/a"));
@@ -65,8 +70,12 @@ void TestPathList::manyAreFoundAgain()
 {
     PathList list(u"/"_s);
     constexpr int number = 10'000;
-    for (int i = 0; i < number; ++i)
+    for (int i = 0; i < number; ++i) {
+        // Whether they were announced or not.
+        if (i == number / 4)
+            list.expect(number / 4);
         QVERIFY(list.add("folder/" + QByteArray::number(i)));
+    }
     for (int i = 0; i < number; ++i)
         QVERIFY(!list.add("folder/" + QByteArray::number(i)));
     QCOMPARE(list.count(), number);

@@ -20,6 +20,7 @@ private slots:
     void bytesThatAreNoTextAreHalvesOfCharacters();
     void anyBytesComeBack();
     void otherHalvesAreNoUtf8();
+    void asciiIsWrittenAlone();
 };
 
 void TestByteText::textIsWhatUtf8Says()
@@ -72,6 +73,21 @@ void TestByteText::otherHalvesAreNoUtf8()
     const QByteArray bytes = bytesOfText(QString(u"a"_s + QChar(0xD83D)));
     QCOMPARE(bytes, QByteArray("a\xED\xA0\xBD"));
     QVERIFY(!bytes.isValidUtf8());
+}
+
+void TestByteText::asciiIsWrittenAlone()
+{
+    const QString untouched(8, u'-');
+    for (const QByteArray &bytes : {QByteArray(), QByteArray("a b\x7F\n")}) {
+        QString text = untouched;
+        QCOMPARE(writeAscii(bytes, text.data()), text.data() + bytes.size());
+        QCOMPARE(text, QString::fromLatin1(bytes) + untouched.sliced(bytes.size()));
+    }
+    for (const QByteArray &bytes : {QByteArray("\x80"), QByteArray("ab\xFF"), QByteArray("é")}) {
+        QString text = untouched;
+        QCOMPARE(writeAscii(bytes, text.data()), nullptr);
+        QCOMPARE(text, untouched);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestByteText)
