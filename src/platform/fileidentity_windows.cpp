@@ -3,6 +3,7 @@
 
 #include "platform/extendedpath_windows.h"
 #include "platform/fileidentity.h"
+#include "platform/winapi_windows.h"
 
 #include <windows.h>
 
@@ -16,13 +17,6 @@ qint64 nanoseconds(const FILETIME &time)
     constexpr qint64 until1970 = 116'444'736'000'000'000;
     const qint64 ticks = (qint64{time.dwHighDateTime} << 32) | time.dwLowDateTime;
     return (ticks - until1970) * 100;
-}
-
-FileIdentity::Kind kindOf(DWORD attributes)
-{
-    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT)
-        return FileIdentity::Kind::Link;
-    return attributes & FILE_ATTRIBUTE_DIRECTORY ? FileIdentity::Kind::Folder : FileIdentity::Kind::File;
 }
 
 /// With a separator at its end, or a dot behind that, a path means where a link leads, as elsewhere. Windows
@@ -39,9 +33,9 @@ std::optional<FileIdentity> fileIdentity(const QString &path)
 {
     const QString full = extendedPath(path);
     const DWORD itself = leadsThrough(path) ? 0 : FILE_FLAG_OPEN_REPARSE_POINT;
-    const HANDLE file = CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_READ_ATTRIBUTES,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | itself, nullptr);
+    const HANDLE file =
+        CreateFileW(wide(full), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | itself, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return std::nullopt;
     BY_HANDLE_FILE_INFORMATION there = {};

@@ -3,6 +3,8 @@
 
 #include "platform/filelock.h"
 
+#include "platform/winapi_windows.h"
+
 #include <QFile>
 
 #include <windows.h>
@@ -17,11 +19,6 @@ OVERLAPPED lockedPlace()
     OVERLAPPED place = {};
     place.OffsetHigh = 0x40000000;
     return place;
-}
-
-HANDLE handleOf(const QFile &file)
-{
-    return reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform/filerename.h"
 
 #include "platform/extendedpath_windows.h"
+#include "platform/winapi_windows.h"
 
 #include <algorithm>
 
@@ -21,7 +22,7 @@ bool isStream(const QString &extended)
 
 bool exists(const QString &extended)
 {
-    return GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16())) != INVALID_FILE_ATTRIBUTES;
+    return GetFileAttributesW(wide(extended)) != INVALID_FILE_ATTRIBUTES;
 }
 
 /// Whether nothing is left of the last part without dots and blanks at its end: the folder would be the
@@ -37,7 +38,7 @@ bool isDropped(const QString &path)
 
 bool isFolder(const QString &extended)
 {
-    const DWORD attributes = GetFileAttributesW(reinterpret_cast<const wchar_t *>(extended.utf16()));
+    const DWORD attributes = GetFileAttributesW(wide(extended));
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
@@ -108,8 +109,7 @@ RenameResult FileRenamer::rename(const QString &from, const QString &to)
     if (!onlyCase && exists(target))
         return exists(source) ? RenameResult::TargetExists : RenameResult::SourceMissing;
     // QFile::rename is not asked: MoveFile copies onto other drives.
-    if (MoveFileExW(reinterpret_cast<const wchar_t *>(source.utf16()),
-                    reinterpret_cast<const wchar_t *>(target.utf16()), 0))
+    if (MoveFileExW(wide(source), wide(target), 0))
         return RenameResult::Done;
     return meaningOf(GetLastError(), source, target);
 }

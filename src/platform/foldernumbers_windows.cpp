@@ -3,6 +3,7 @@
 
 #include "platform/extendedpath_windows.h"
 #include "platform/foldernumbers.h"
+#include "platform/winapi_windows.h"
 
 #include <QHashFunctions>
 
@@ -14,9 +15,8 @@ FolderNumbers::FolderNumbers(const QString &folder)
 {
     const QString full = extendedPath(folder);
     handle = reinterpret_cast<qintptr>(
-        CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_LIST_DIRECTORY,
-                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                    FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+        CreateFileW(wide(full), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 FolderNumbers::~FolderNumbers()

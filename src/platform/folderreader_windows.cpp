@@ -4,6 +4,7 @@
 #include "platform/folderreader.h"
 
 #include "platform/extendedpath_windows.h"
+#include "platform/winapi_windows.h"
 
 #include <windows.h>
 
@@ -13,11 +14,6 @@ namespace {
 /// counts.
 constexpr auto caseSensitiveInfo = static_cast<FILE_INFO_BY_HANDLE_CLASS>(23);
 
-const wchar_t *wide(const QString &text)
-{
-    return reinterpret_cast<const wchar_t *>(text.utf16());
-}
-
 HANDLE open(const QString &full, DWORD access)
 {
     return CreateFileW(wide(full), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -25,7 +21,7 @@ HANDLE open(const QString &full, DWORD access)
 }
 
 /// Nothing is written: the system only checks the right to.
-bool canBeWritten(const QString &full)
+bool takesFiles(const QString &full)
 {
     const HANDLE folder = open(full, FILE_ADD_FILE);
     if (folder == INVALID_HANDLE_VALUE)
@@ -76,15 +72,8 @@ FolderTraits traitsOf(const QString &full)
     if (GetVolumeInformationByHandleW(folder, nullptr, 0, nullptr, &longest, nullptr, nullptr, 0))
         traits.longestName = longest;
     CloseHandle(folder);
-    traits.writable = canBeWritten(full);
+    traits.writable = takesFiles(full);
     return traits;
-}
-
-FileIdentity::Kind kindOf(DWORD attributes)
-{
-    if (attributes & FILE_ATTRIBUTE_REPARSE_POINT)
-        return FileIdentity::Kind::Link;
-    return attributes & FILE_ATTRIBUTE_DIRECTORY ? FileIdentity::Kind::Folder : FileIdentity::Kind::File;
 }
 
 class WindowsFolderReader final : public FolderReader

@@ -14,7 +14,7 @@ namespace {
 constexpr qint64 tick = 16'000'000;
 
 /// The system counts tenths of microseconds.
-qint64 nanoseconds(const FILETIME &time)
+qint64 lengthOf(const FILETIME &time)
 {
     return ((qint64{time.dwHighDateTime} << 32) | time.dwLowDateTime) * 100;
 }
@@ -34,7 +34,7 @@ ProcessorTime::Clocks ProcessorTime::now()
     FILETIME user = {};
     GetThreadTimes(GetCurrentThread(), &born, &gone, &system, &user);
     const auto wall = std::chrono::steady_clock::now().time_since_epoch();
-    return {.thread = nanoseconds(system) + nanoseconds(user),
+    return {.thread = lengthOf(system) + lengthOf(user),
             .wall = std::chrono::duration_cast<std::chrono::nanoseconds>(wall).count()};
 }
 

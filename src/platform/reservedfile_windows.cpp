@@ -5,19 +5,11 @@
 
 #include "platform/filelock.h"
 #include "platform/sharedfile.h"
+#include "platform/winapi_windows.h"
 
 #include <windows.h>
 
 #include <io.h>
-
-namespace {
-
-HANDLE handleOf(const QFile &file)
-{
-    return reinterpret_cast<HANDLE>(_get_osfhandle(file.handle()));
-}
-
-} // namespace
 
 std::unique_ptr<ReservedFile> ReservedFile::create(const QString &path, QString *error)
 {

@@ -4,6 +4,7 @@
 #include "platform/sharedfile.h"
 
 #include "platform/extendedpath_windows.h"
+#include "platform/winapi_windows.h"
 
 #include <QFile>
 #include <QRandomGenerator>
@@ -14,15 +15,6 @@
 #include <io.h>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-const wchar_t *wide(const QString &text)
-{
-    return reinterpret_cast<const wchar_t *>(text.utf16());
-}
-
-} // namespace
 
 bool openShared(QFile &file, QIODevice::OpenMode mode)
 {

@@ -3,6 +3,8 @@
 
 #include "platform/sortkey.h"
 
+#include "platform/winapi_windows.h"
+
 #include <windows.h>
 
 SortKey sortKey(const QCollator &collator, const QString &name)
@@ -11,8 +13,7 @@ SortKey sortKey(const QCollator &collator, const QString &name)
     const DWORD flags = LCMAP_SORTKEY | (collator.numericMode() ? SORT_DIGITSASNUMBERS : 0);
     const auto map = [&](QByteArray *key) {
         // Of a key the system counts bytes, whatever the type of the buffer.
-        return LCMapStringEx(reinterpret_cast<const wchar_t *>(locale.utf16()), flags,
-                             reinterpret_cast<const wchar_t *>(name.utf16()), static_cast<int>(name.size()),
+        return LCMapStringEx(wide(locale), flags, wide(name), static_cast<int>(name.size()),
                              reinterpret_cast<wchar_t *>(key->data()), static_cast<int>(key->size()), nullptr,
                              nullptr, 0);
     };

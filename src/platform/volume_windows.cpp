@@ -3,6 +3,7 @@
 
 #include "platform/extendedpath_windows.h"
 #include "platform/volume.h"
+#include "platform/winapi_windows.h"
 
 #include <windows.h>
 
@@ -12,9 +13,9 @@ Volume volumeOf(const QString &path)
 {
     // Asked of what is open: a path may lead through folders that are other volumes.
     const QString full = extendedPath(path);
-    const HANDLE there = CreateFileW(reinterpret_cast<const wchar_t *>(full.utf16()), FILE_READ_ATTRIBUTES,
-                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                     OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    const HANDLE there =
+        CreateFileW(wide(full), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (there == INVALID_HANDLE_VALUE)
         return {};
     Volume volume;
