@@ -14,8 +14,10 @@
 #include <memory>
 
 class ActiveRules;
+class AllOrNothing;
 class Explorer;
 class Fates;
+class PlannedRenaming;
 class ProgressDialog;
 class QPushButton;
 class QSignalMapper;
@@ -132,6 +134,8 @@ private:
     std::unique_ptr<Fates> fates;
     RunHistory *runHistory = nullptr;
     std::unique_ptr<TakingBack> takingBack;
+    AllOrNothing *allOrNothing = nullptr;
+    std::unique_ptr<PlannedRenaming> plannedRenaming;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned; changed by activeRules alone

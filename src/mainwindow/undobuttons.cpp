@@ -46,6 +46,12 @@ UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHi
     retranslate();
 }
 
+void UndoButtons::addEntry(QAction *entry)
+{
+    menu->addSeparator();
+    menu->addAction(entry);
+}
+
 void UndoButtons::openMenu()
 {
     menu->popup(buttonRuns->mapToGlobal(QPoint(0, buttonRuns->height())));

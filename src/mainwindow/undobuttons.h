@@ -21,6 +21,8 @@ public:
     /// Belongs to the window of the buttons.
     UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHistory &runHistory,
                 TakingBack &takingBack);
+    /// An entry of another's, at the end of the menu.
+    void addEntry(QAction *entry);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/plannedrenaming.h"
+
+#include "core/applog.h"
+#include "desktop/messagebox.h"
+#include "mainwindow/aside.h"
+#include "mainwindow/explorer.h"
+#include "mainwindow/fates.h"
+#include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/mainwindow.h"
+#include "mainwindow/planinhand.h"
+#include "mainwindow/plannedreport.h"
+#include "mainwindow/plannedtexts.h"
+#include "mainwindow/recordedrun.h"
+#include "mainwindow/runhistory.h"
+#include "run/plannedrun.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void tellNotRenamed(int row, const FilePath &file, const Outcome &outcome, Failures &failures)
+{
+    AppLog::instance()->append(MainWindow::tr("Could not rename file") + u" '%1'"_s.arg(file.name()));
+    qDebug("not renamed: %s", qPrintable(idOf(outcome.reason)));
+    failures.append({row, file, outcome});
+}
+
+} // namespace
+
+PlannedRenaming::PlannedRenaming(WindowParts windowParts, RunHistory &runHistory, Namer namer)
+    : parts(std::move(windowParts))
+    , history(runHistory)
+    , newName(std::move(namer))
+{
+}
+
+void PlannedRenaming::run()
+{
+    // What can be is planned anew: the question may have been open for hours.
+    if (rename(Rows::All))
+        (void)rename(Rows::ThoseThatCan);
+}
+
+/// True when not all rows can be renamed, and those that can shall be.
+bool PlannedRenaming::rename(Rows rows)
+{
+    QWidget *window = parts.list.window();
+    AppLog::instance()->append(MainWindow::tr("File renaming started"));
+    RunProgress progress(window, parts.list.count());
+    parts.preview.setChecked(false);
+    PlannedReport report;
+    report.figures = {.total = parts.list.count(), .kept = 0};
+    Failures failures;
+    PlanInHand inHand;
+    const Plan &plan = inHand.plan;
+    if (!makePlan(inHand, progress)) {
+        report.note = cancelledAndTakenBackText();
+    } else {
+        report.figures.kept = plan.kept();
+        report.figures.failed = plan.refused();
+        tellRefused(inHand, progress, failures);
+        report.offersRest = rows == Rows::All && plan.refused() > 0 && !plan.order().empty();
+        if (rows == Rows::All && plan.refused() > 0)
+            report.note = notAllCanBeText();
+        else if (!plan.order().empty())
+            carryOut(inHand, progress, report, failures);
+    }
+    progress.close();
+    parts.refreshRows();
+    parts.fates.showFailures(failures);
+    history.pruneAndRefresh();
+    return showPlannedReport(window, report, failures);
+}
+
+/// False when it was cancelled.
+bool PlannedRenaming::makePlan(PlanInHand &inHand, RunProgress &progress) const
+{
+    FilePaths filePaths;
+    for (int row = 0; row < parts.list.count(); ++row) {
+        const FilePath file = filePaths.split(parts.list.path(row));
+        inHand.plan.add(file, newName(file.name(), row));
+        if (!progress.goOn(0))
+            return false;
+    }
+    const Aside aside([&inHand] { inHand.plan.make(); });
+    while (!aside.isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return !progress.isCancelled();
+}
+
+void PlannedRenaming::tellRefused(const PlanInHand &inHand, RunProgress &progress, Failures &failures) const
+{
+    for (int row = 0; row < parts.list.count() && inHand.plan.refused() > 0; ++row) {
+        const Outcome outcome = inHand.outcome(row);
+        if (!outcome.isRenamed() && outcome.reason != Fate::Unchanged)
+            tellNotRenamed(row, inHand.plan.file(row), outcome, failures);
+        (void)progress.goOn(0);
+    }
+}
+
+void PlannedRenaming::carryOut(const PlanInHand &inHand, RunProgress &progress, PlannedReport &report,
+                               Failures &failures) const
+{
+    const Plan &plan = inHand.plan;
+    SystemDisk system;
+    QString error;
+    const auto journal =
+        history.journals().begin(QCoreApplication::applicationVersion(), parts.list.count(), {}, &error);
+    if (!journal) {
+        qDebug("no journal: %s", qPrintable(error));
+        report.note = needsJournalText();
+        return;
+    }
+    JournalledDisk disk(system, *journal);
+    PlannedRun run(disk, plan);
+    const SelectionKept selection(parts.explorer, parts.list);
+    goThrough(run, plan, progress);
+    journal->end(run.state() != PlannedRun::State::Done);
+    followFiles(run, plan, progress);
+    report.figures.processed = run.renamed();
+    if (run.failedRow() >= 0) {
+        ++report.figures.failed;
+        tellNotRenamed(run.failedRow(), plan.file(run.failedRow()),
+                       {run.failure(), run.failure(), -1, plan.target(run.failedRow())}, failures);
+    }
+    if (run.state() == PlannedRun::State::TakenBack)
+        report.note = run.failedRow() >= 0 ? failedAndTakenBackText() : cancelledAndTakenBackText();
+    else if (run.state() == PlannedRun::State::Stuck)
+        report.note = cannotGoBackText(run.standing().size());
+}
+
+void PlannedRenaming::goThrough(PlannedRun &run, const Plan &plan, RunProgress &progress) const
+{
+    progress.setTotal(static_cast<int>(plan.order().size()));
+    bool isAsked = false;
+    while (run.next()) {
+        if (progress.goOn(run.renamed()) || isAsked)
+            continue;
+        isAsked = true;
+        if (!wantsAllBack(run, plan))
+            return;
+        run.takeBack();
+        progress.insist();
+    }
+}
+
+bool PlannedRenaming::wantsAllBack(const PlannedRun &run, const Plan &plan) const
+{
+    QWidget *window = parts.list.window();
+    // The program ends: nobody is there to answer.
+    if (!window->isVisible())
+        return true;
+    QMessageBox *box = createMessageBox(window, QMessageBox::Question);
+    box->setObjectName(u"boxCancelled"_s);
+    box->setText(cancelledQuestion(run.renamed(), static_cast<int>(plan.order().size())));
+    addMessageButton(box, QMessageBox::Yes, putEverythingBackText(), u":/img/undo.png"_s);
+    addMessageButton(box, QMessageBox::No, keepWhatIsDoneText(), u":/img/save.png"_s);
+    box->setDefaultButton(QMessageBox::Yes);
+    box->setEscapeButton(QMessageBox::Yes);
+    return execMessageBox(box) != QMessageBox::No;
+}
+
+/// Rows have the paths of their files again.
+void PlannedRenaming::followFiles(const PlannedRun &run, const Plan &plan, RunProgress &progress) const
+{
+    const QList<PlannedRun::Standing> standing = run.standing();
+    for (const auto &[row, path] : standing) {
+        // Events are processed meanwhile.
+        if (row < parts.list.count() && parts.list.path(row) == plan.file(row).path)
+            parts.list.setPath(row, path);
+        (void)progress.goOn(run.renamed());
+    }
+}

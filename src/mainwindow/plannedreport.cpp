@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#include "mainwindow/plannedreport.h"
+
+#include "core/applog.h"
+#include "mainwindow/plannedtexts.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+bool showPlannedReport(QWidget *parent, const PlannedReport &report, const Failures &failures)
+{
+    QMessageBox box(parent);
+    if (!report.note.isEmpty()) {
+        AppLog::instance()->append(report.note);
+        box.setInformativeText(report.note);
+    }
+    fillReport(box, report.figures, failures);
+    const QPushButton *rest = nullptr;
+    if (report.offersRest) {
+        QPushButton *button = box.addButton(renameWhatCanBeText(), QMessageBox::ActionRole);
+        button->setObjectName(u"buttonRenameRest"_s);
+        button->setIcon(QIcon(u":/img/start.png"_s));
+        button->setIconSize({24, 24});
+        button->setAutoDefault(false);
+        rest = button;
+    }
+    box.exec();
+    return rest && box.clickedButton() == rest;
+}
