@@ -57,6 +57,9 @@ struct JournalInfo
     qint64 bytes = 0;
     /// Whether an interrupted run was neither taken back nor left alone.
     bool isOpen = false;
+    /// Of a planned run how many rows it wished for; otherwise 0. Its renames may be more: a row can need
+    /// several.
+    qint64 planned = 0;
 
     /// Whether this is a run of its own.
     [[nodiscard]] bool isRun() const { return takesBack.isEmpty(); }
@@ -66,6 +69,9 @@ struct JournalInfo
         return standing > 0 &&
                (state == State::Complete || state == State::Cancelled || state == State::Interrupted);
     }
+    /// Whether this is a planned run that was interrupted: FinishRun finishes it, UndoRun puts it back, leave()
+    /// has it be. An undo that was interrupted on the way leaves it so.
+    [[nodiscard]] bool canFinish() const { return planned > 0 && isOpen; }
     [[nodiscard]] bool isTakenBack() const { return renamed > 0 && standing == 0; }
     [[nodiscard]] bool isPartlyTakenBack() const { return standing > 0 && standing < renamed; }
 
@@ -104,6 +110,8 @@ public:
     /// then says why, for a log.
     [[nodiscard]] std::unique_ptr<Journal> begin(const QString &program, qint64 rows,
                                                  const QString &takesBack, QString *error);
+    /// The same for a planned run of so many rows to be renamed: see PlannedRun.
+    [[nodiscard]] std::unique_ptr<Journal> beginPlanned(const QString &program, qint64 rows, QString *error);
     /// Removes what is too much, the oldest first, and what holds nothing. To be called after a run.
     void prune();
     /// An interrupted run is done with, without being taken back.

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 /// The lines of a journal. Each is a JSON object whose members are texts and whole numbers.
@@ -23,6 +24,8 @@ struct JournalHeader
     qint64 rows = 0;
     /// The journal of the run that this one takes back; empty for a run that takes none back.
     QString takesBack;
+    /// Of a planned run how many rows it writes ahead; otherwise 0.
+    qint64 planned = 0;
 };
 
 /// By what a file is known again, whatever it is called and whatever was written into it.
@@ -50,6 +53,28 @@ struct JournalEntry
     QString from;
     QString to;
     FileStamp file;
+    /// Of an exchange the file that goes from "folder/to" to "folder/from" at once.
+    std::optional<FileStamp> other;
+
+    /// How many files the entry moves.
+    [[nodiscard]] int files() const { return other ? 2 : 1; }
+};
+
+/// A row of a planned run, all of which are written before the first is renamed: its file and what it shall be
+/// called. Without a folder it is that of the row before.
+struct JournalWish
+{
+    QString folder;
+    QString from;
+    QString to;
+    FileStamp file;
+};
+
+/// A planned run took its entry of this number back itself: written when that was done.
+struct JournalBack
+{
+    qint64 number = 0;
+    int files = 1;
 };
 
 /// The same, of texts that belong to others: what is written for each file is not copied before.
