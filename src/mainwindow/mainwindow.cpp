@@ -23,6 +23,7 @@
 #include "mainwindow/explorermodel.h"
 #include "mainwindow/explorerroad.h"
 #include "mainwindow/fates.h"
+#include "mainwindow/finishing.h"
 #include "mainwindow/forecastlabel.h"
 #include "mainwindow/handbookkey.h"
 #include "mainwindow/logrows.h"
@@ -164,7 +165,8 @@ void MainWindow::createUndo()
                                 on_buttonPreview_clicked();
                             }};
     takingBack = std::make_unique<TakingBack>(parts, *runHistory);
-    auto *buttons = new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack);
+    finishing = std::make_unique<Finishing>(parts, *runHistory);
+    auto *buttons = new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack, *finishing);
     allOrNothing = new AllOrNothing(ui->layoutUndo, this);
     buttons->addEntry(allOrNothing->entry());
     fates->follow(*allOrNothing);

@@ -17,6 +17,7 @@ class ActiveRules;
 class AllOrNothing;
 class Explorer;
 class Fates;
+class Finishing;
 class PlannedRenaming;
 class ProgressDialog;
 class QPushButton;
@@ -134,6 +135,7 @@ private:
     std::unique_ptr<Fates> fates;
     RunHistory *runHistory = nullptr;
     std::unique_ptr<TakingBack> takingBack;
+    std::unique_ptr<Finishing> finishing;
     AllOrNothing *allOrNothing = nullptr;
     std::unique_ptr<PlannedRenaming> plannedRenaming;
     std::unique_ptr<TaskbarList> taskbarList;

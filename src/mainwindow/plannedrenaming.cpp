@@ -13,25 +13,13 @@
 #include "mainwindow/planinhand.h"
 #include "mainwindow/plannedreport.h"
 #include "mainwindow/plannedtexts.h"
-#include "mainwindow/recordedrun.h"
 #include "mainwindow/runhistory.h"
-#include "run/plannedrun.h"
+#include "run/systemdisk.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void tellNotRenamed(int row, const FilePath &file, const Outcome &outcome, Failures &failures)
-{
-    AppLog::instance()->append(MainWindow::tr("Could not rename file") + u" '%1'"_s.arg(file.name()));
-    qDebug("not renamed: %s", qPrintable(idOf(outcome.reason)));
-    failures.append({row, file, outcome});
-}
-
-} // namespace
 
 PlannedRenaming::PlannedRenaming(WindowParts windowParts, RunHistory &runHistory, Namer namer)
     : parts(std::move(windowParts))
@@ -99,7 +87,7 @@ void PlannedRenaming::tellRefused(const PlanInHand &inHand, RunProgress &progres
     for (int row = 0; row < parts.list.count() && inHand.plan.refused() > 0; ++row) {
         const Outcome outcome = inHand.outcome(row);
         if (!outcome.isRenamed() && outcome.reason != Fate::Unchanged)
-            tellNotRenamed(row, inHand.plan.file(row), outcome, failures);
+            tellNotRenamed({row, inHand.plan.file(row), outcome}, failures);
         (void)progress.goOn(0);
     }
 }
@@ -108,34 +96,32 @@ void PlannedRenaming::carryOut(const PlanInHand &inHand, RunProgress &progress, 
                                Failures &failures) const
 {
     const Plan &plan = inHand.plan;
-    SystemDisk system;
     QString error;
-    const auto journal =
-        history.journals().begin(QCoreApplication::applicationVersion(), parts.list.count(), {}, &error);
+    const auto journal = history.journals().beginPlanned(QCoreApplication::applicationVersion(),
+                                                         static_cast<qint64>(plan.order().size()), &error);
     if (!journal) {
         qDebug("no journal: %s", qPrintable(error));
         report.note = needsJournalText();
         return;
     }
-    JournalledDisk disk(system, *journal);
-    PlannedRun run(disk, plan);
+    SystemDisk disk;
+    PlannedRun run(disk, plan, journal.get());
     const SelectionKept selection(parts.explorer, parts.list);
-    goThrough(run, plan, progress);
-    journal->end(run.state() != PlannedRun::State::Done);
+    run.end(goThrough(run, plan, progress));
     followFiles(run, plan, progress);
     report.figures.processed = run.renamed();
-    if (run.failedRow() >= 0) {
+    if (const int row = run.failedRow(); row >= 0) {
         ++report.figures.failed;
-        tellNotRenamed(run.failedRow(), plan.file(run.failedRow()),
-                       {run.failure(), run.failure(), -1, plan.target(run.failedRow())}, failures);
+        tellNotRenamed({row, plan.file(row), {run.failure(), run.failure(), -1, plan.target(row)}}, failures);
     }
     if (run.state() == PlannedRun::State::TakenBack)
         report.note = run.failedRow() >= 0 ? failedAndTakenBackText() : cancelledAndTakenBackText();
     else if (run.state() == PlannedRun::State::Stuck)
-        report.note = cannotGoBackText(run.standing().size());
+        tellStanding(run, plan, report, failures);
 }
 
-void PlannedRenaming::goThrough(PlannedRun &run, const Plan &plan, RunProgress &progress) const
+/// What stands when the run is over.
+PlannedRun::Rest PlannedRenaming::goThrough(PlannedRun &run, const Plan &plan, RunProgress &progress) const
 {
     progress.setTotal(static_cast<int>(plan.order().size()));
     bool isAsked = false;
@@ -143,11 +129,25 @@ void PlannedRenaming::goThrough(PlannedRun &run, const Plan &plan, RunProgress &
         if (progress.goOn(run.renamed()) || isAsked)
             continue;
         isAsked = true;
-        if (!wantsAllBack(run, plan))
-            return;
+        if (!wantsAllBack(run, plan)) {
+            // No file keeps a name that is neither its old nor its new one.
+            while (run.isBetween() && run.next())
+                (void)progress.goOn(run.renamed());
+            return PlannedRun::Rest::IsKept;
+        }
         run.takeBack();
         progress.insist();
     }
+    return PlannedRun::Rest::StaysOpen;
+}
+
+void PlannedRenaming::tellStanding(const PlannedRun &run, const Plan &plan, PlannedReport &report,
+                                   Failures &failures) const
+{
+    const QList<PlannedRun::Standing> standing = run.standing();
+    for (const auto &[row, path] : standing)
+        tellNotPutBack(row, plan.file(row), path, failures);
+    report.note = cannotGoBackText(standing.size());
 }
 
 bool PlannedRenaming::wantsAllBack(const PlannedRun &run, const Plan &plan) const

@@ -4,9 +4,8 @@
 #pragma once
 
 #include "mainwindow/takingback.h"
+#include "run/plannedrun.h"
 
-class Plan;
-class PlannedRun;
 struct PlanInHand;
 struct PlannedReport;
 
@@ -30,8 +29,10 @@ private:
     void tellRefused(const PlanInHand &inHand, RunProgress &progress, Failures &failures) const;
     void carryOut(const PlanInHand &inHand, RunProgress &progress, PlannedReport &report,
                   Failures &failures) const;
-    void goThrough(PlannedRun &run, const Plan &plan, RunProgress &progress) const;
+    [[nodiscard]] PlannedRun::Rest goThrough(PlannedRun &run, const Plan &plan, RunProgress &progress) const;
     [[nodiscard]] bool wantsAllBack(const PlannedRun &run, const Plan &plan) const;
+    void tellStanding(const PlannedRun &run, const Plan &plan, PlannedReport &report,
+                      Failures &failures) const;
     void followFiles(const PlannedRun &run, const Plan &plan, RunProgress &progress) const;
 
     WindowParts parts;

@@ -15,5 +15,12 @@ struct PlannedReport
     bool offersRest = false;
 };
 
+// Both have the log say it, too.
+
+/// A row that cannot be renamed, or was not.
+void tellNotRenamed(const Failure &failure, Failures &failures);
+/// A row that was to have its old name again, and has not. The file is the one from before the run.
+void tellNotPutBack(int row, const FilePath &file, const QString &pathNow, Failures &failures);
+
 /// Shows it in a box, and in the log; true when what can be shall be renamed.
 [[nodiscard]] bool showPlannedReport(QWidget *parent, const PlannedReport &report, const Failures &failures);

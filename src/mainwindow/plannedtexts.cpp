@@ -75,6 +75,11 @@ QString needsJournalText()
     return AllOrNothing::tr("Nothing was renamed: the journal of the run cannot be written.");
 }
 
+QString stillUnfinishedText()
+{
+    return AllOrNothing::tr("The run is not finished yet.");
+}
+
 QString notPutBackText(const QString &oldName, const QString &nameNow)
 {
     return AllOrNothing::tr("Could not put back file '%1': it is called '%2'").arg(oldName, nameNow);

@@ -26,6 +26,7 @@
 [[nodiscard]] QString cancelledAndTakenBackText();
 [[nodiscard]] QString cannotGoBackText(qsizetype standing);
 [[nodiscard]] QString needsJournalText();
+[[nodiscard]] QString stillUnfinishedText();
 
 /// A line of the log: what a file is called that should have its old name again.
 [[nodiscard]] QString notPutBackText(const QString &oldName, const QString &nameNow);
