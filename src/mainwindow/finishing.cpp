@@ -32,6 +32,16 @@ FinishRun::Begun beginFinishAside(JournalFolder &journals, const QString &journa
     return begun;
 }
 
+/// Before the first move the journal is read once more, and all files are looked at.
+bool nextAside(FinishRun &run)
+{
+    bool goesOn = false;
+    const Aside aside([&] { goesOn = run.next(); });
+    while (!aside.isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return goesOn;
+}
+
 } // namespace
 
 Finishing::Finishing(WindowParts windowParts, RunHistory &runHistory)
@@ -60,8 +70,6 @@ void Finishing::finish(const QString &journal, QWidget *above)
     Failures failures;
     if (run.refused() > 0)
         tellRefused(run, report, failures);
-    else if (!run.journalError().isEmpty())
-        report.note = needsJournalText();
     else
         renameRest(run, progress, report, failures);
     progress.close();
@@ -90,9 +98,9 @@ void Finishing::renameRest(FinishRun &run, RunProgress &progress, PlannedReport 
     RowsOfFiles rows(parts.list);
     progress.setTotal(run.total());
     // Who cancels has the run as it was: interrupted.
-    bool goesOn = !progress.isCancelled();
-    while (goesOn && run.next())
-        goesOn = progress.goOn(run.run() ? run.run()->renamed() : 0);
+    bool goesOn = !progress.isCancelled() && nextAside(run);
+    while (goesOn)
+        goesOn = progress.goOn(run.run()->renamed()) && run.next();
     run.end();
     const PlannedRun *planned = run.run();
     const QList<PlannedRun::Standing> standing = planned ? planned->standing() : QList<PlannedRun::Standing>();
@@ -106,6 +114,8 @@ void Finishing::renameRest(FinishRun &run, RunProgress &progress, PlannedReport 
         outcome.fate = outcome.reason = planned->failure();
         tellNotRenamed({rows.rowOf(run.file(row).path), run.file(row), outcome}, failures);
     }
-    if (report.figures.processed < report.figures.total)
+    if (!run.journalError().isEmpty())
+        report.note = needsJournalText();
+    else if (report.figures.processed < report.figures.total)
         report.note = stillUnfinishedText();
 }

@@ -21,6 +21,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Before the first move all rows are written ahead. The window stays alive.
+bool beginAside(PlannedRun &run)
+{
+    bool goesOn = false;
+    const Aside aside([&] { goesOn = run.next(); });
+    while (!aside.isDone())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return goesOn;
+}
+
+} // namespace
+
 PlannedRenaming::PlannedRenaming(WindowParts windowParts, RunHistory &runHistory, Namer namer)
     : parts(std::move(windowParts))
     , history(runHistory)
@@ -125,7 +139,7 @@ PlannedRun::Rest PlannedRenaming::goThrough(PlannedRun &run, const Plan &plan, R
 {
     progress.setTotal(static_cast<int>(plan.order().size()));
     bool isAsked = false;
-    while (run.next()) {
+    for (bool goesOn = beginAside(run); goesOn; goesOn = run.next()) {
         if (progress.goOn(run.renamed()) || isAsked)
             continue;
         isAsked = true;

@@ -16,11 +16,6 @@ QString keyOf(const QString &path)
     return isPlainPath(path) ? path : QDir::cleanPath(path);
 }
 
-bool isHidden(const QString &path)
-{
-    return QStringView(path).sliced(path.lastIndexOf(u'/') + 1).startsWith(u'.');
-}
-
 } // namespace
 
 RowsOfFiles::RowsOfFiles(ListWidgetFiles &listOfFiles)
@@ -31,19 +26,23 @@ RowsOfFiles::RowsOfFiles(ListWidgetFiles &listOfFiles)
 
 int RowsOfFiles::rowOf(const QString &path)
 {
+    return rowOf(path, -1);
+}
+
+int RowsOfFiles::rowOf(const QString &path, int butNot)
+{
     // Mostly the rows of a run, from its last to its first, or of an undo, from its first to its last.
-    // Of two files that were exchanged the one whose row was found last is not meant.
     for (const int row : {last - 1, last + 1, 0}) {
-        if (rows.isEmpty() && row != last && row >= 0 && row < list.count() && list.path(row) == path)
+        if (rows.isEmpty() && row != butNot && row >= 0 && row < list.count() && list.path(row) == path)
             return last = row;
     }
-    if (const int row = passing.value(keyOf(path), -1); row >= 0 && shows(row, path))
+    if (const int row = moved.value(keyOf(path), -1); row >= 0 && row != butNot && shows(row, path))
         return row;
     if (rows.isEmpty())
         lookAtAll();
     const int row = rows.value(keyOf(path), -1);
     // Events are processed meanwhile.
-    return row < 0 || shows(row, path) ? row : -1;
+    return row < 0 || (row != butNot && shows(row, path)) ? row : -1;
 }
 
 bool RowsOfFiles::shows(int row, const QString &path) const
@@ -53,12 +52,17 @@ bool RowsOfFiles::shows(int row, const QString &path) const
 
 void RowsOfFiles::follow(const QString &from, const QString &to)
 {
-    const int row = rowOf(from);
-    if (row < 0)
+    // The second of two files that were exchanged: for a moment both rows show one path.
+    const bool isOther = lastMoved >= 0 && from == lastTo && to == lastFrom;
+    const bool isDisplaced = isOther && displaced >= 0 && shows(displaced, from);
+    lastMoved = isDisplaced ? displaced : rowOf(from, isOther ? lastMoved : -1);
+    lastFrom = from;
+    lastTo = to;
+    if (lastMoved < 0)
         return;
-    list.setPath(row, to);
-    if (isHidden(to))
-        passing.insert(keyOf(to), row);
+    displaced = moved.value(keyOf(to), -1);
+    list.setPath(lastMoved, to);
+    moved.insert(keyOf(to), lastMoved);
 }
 
 void RowsOfFiles::lookAtAll()

@@ -20,6 +20,7 @@ public:
     void follow(const QString &from, const QString &to);
 
 private:
+    [[nodiscard]] int rowOf(const QString &path, int butNot);
     void lookAtAll();
     [[nodiscard]] bool shows(int row, const QString &path) const;
 
@@ -28,6 +29,12 @@ private:
     int last;
     /// By the paths that their files had at first; empty as long as rows follow one another.
     QHash<QString, int> rows;
-    /// By the paths of files that are hidden: third names, which do not last.
-    QHash<QString, int> passing;
+    /// Those that have followed, by the paths that their files have now: a planned run moves some twice.
+    QHash<QString, int> moved;
+
+    /// The step that was followed last, its row, and the row that had followed to the same path before.
+    QString lastFrom;
+    QString lastTo;
+    int lastMoved = -1;
+    int displaced = -1;
 };

@@ -122,6 +122,14 @@ private:
         window->addReplace(u"b"_s, u"a"_s);
         window->addReplace(u"?"_s, u"b"_s);
     }
+    /// "a" gets the name of "b", "b" that of "c", and "c" that of "a".
+    void addRing() const
+    {
+        window->addReplace(u"a"_s, u"?"_s);
+        window->addReplace(u"c"_s, u"a"_s);
+        window->addReplace(u"b"_s, u"c"_s);
+        window->addReplace(u"?"_s, u"b"_s);
+    }
     /// "000" becomes "001", and so on: every file but the last waits for the next one's name.
     void addShift() const
     {
@@ -139,6 +147,45 @@ private:
     }
     [[nodiscard]] QList<JournalInfo> journals() const { return JournalFolder(tree->path(u"undo"_s)).list(); }
     [[nodiscard]] const SeenBox &report() const { return boxes->seen.constLast(); }
+
+    /// A run of ten files stops after six of them, as if it had been killed; the window is closed.
+    void interrupt()
+    {
+        window->drop(tree->addFiles(u"dir/%1"_s, 10));
+        addShift();
+        entry()->trigger();
+        QByteArray journal;
+        {
+            const DuringEvents meanwhile([&](int) {
+                const ProgressDialog *dialog = window->waitDialog();
+                const QStringList names = tree->names(u"undo"_s).filter(u".jsonl"_s);
+                if (dialog && dialog->current == 6 && !names.isEmpty())
+                    journal = tree->content(u"undo/"_s + names.constFirst());
+            });
+            run();
+        }
+        QVERIFY(!journal.isEmpty());
+        window.reset();
+        // The files as they were then.
+        for (int number = 1; number < 5; ++number)
+            QVERIFY(QFile::rename(tree->path(u"dir/00%1"_s.arg(number)), tree->path(u"dir/00%1"_s.arg(number - 1))));
+        QVERIFY(writeFile(tree->path(u"undo/"_s + journals().constFirst().name), journal));
+        boxes->seen.clear();
+        AppLog::instance()->clearPending();
+    }
+    /// Presses a button of the list of runs; what a report said then.
+    [[nodiscard]] QString choose(const char *button) const
+    {
+        const ModalAnswer answer([&](QDialog *dialog) {
+            QCOMPARE(dialog->objectName(), u"DialogRuns"_s);
+            auto *choice = dialog->findChild<QPushButton *>(QLatin1StringView(button));
+            QVERIFY(choice->isVisible());
+            QTRY_VERIFY(choice->isEnabled());
+            choice->click();
+        });
+        window->child<QAction>("actionRuns")->trigger();
+        return boxes->seen.isEmpty() ? QString() : report().text;
+    }
 
 private slots:
     void init()
@@ -239,6 +286,23 @@ private slots:
             window->child<QAction>("actionRedo")->trigger();
             QCOMPARE(folder(), QStringList({u"a=b"_s, u"b=a"_s, u"c=c"_s}));
             QCOMPARE(window->rowPaths(), paths({u"b"_s, u"a"_s, u"c"_s}));
+        }
+    }
+
+    void rowsFollowThroughARing()
+    {
+        drop({u"a"_s, u"x"_s, u"b"_s, u"c"_s});
+        addRing();
+        entry()->trigger();
+        run();
+        QCOMPARE(folder(), QStringList({u"a=c"_s, u"b=a"_s, u"c=b"_s, u"x=x"_s}));
+        for (int round = 0; round < 2; ++round) {
+            QTRY_VERIFY(window->child<QToolButton>("buttonUndo")->isEnabled());
+            window->click("buttonUndo");
+            QCOMPARE(window->rowPaths(), paths({u"a"_s, u"x"_s, u"b"_s, u"c"_s}));
+            QTRY_VERIFY(window->child<QAction>("actionRedo")->isEnabled());
+            window->child<QAction>("actionRedo")->trigger();
+            QCOMPARE(window->rowPaths(), paths({u"b"_s, u"x"_s, u"c"_s, u"a"_s}));
         }
     }
 
@@ -388,18 +452,17 @@ private slots:
     {
         QTest::addColumn<int>("after");
         QTest::newRow("in a line") << 4;
-        // Of the ring one file has a third name then.
-        QTest::newRow("at the begin of a ring") << 10;
+        QTest::newRow("before a ring") << 9;
+        // Of the ring one file has the name of another one then.
         QTest::newRow("in a ring") << 11;
     }
     void cancelledAndKept()
     {
         QFETCH(const int, after);
-        const QStringList names = {u"a"_s, u"b"_s};
-        drop(names);
+        drop({u"a"_s, u"b"_s, u"c"_s});
         window->drop(tree->addFiles(u"dir/%1"_s, 10));
         window->addReplace(u"^(\\d+)$"_s, u"x\\1"_s, true);
-        addSwap();
+        addRing();
         entry()->trigger();
         boxes->wanted = {keep};
         {
@@ -407,21 +470,24 @@ private slots:
             run();
         }
         QCOMPARE(boxes->seen.size(), 2);
-        const QStringList now = folder();
-        const auto renamed = now.filter(QRegularExpression(u"^x"_s)).size();
-        const bool isSwapped = now.contains(u"a=b"_s);
-        QCOMPARE(now.contains(u"b=a"_s), isSwapped);
-        QCOMPARE(now.size(), 12);
-        QCOMPARE(renamed, after < 10 ? 5 : 10);
-        QCOMPARE(report().text, u"Total 12\nProcessed %1\nKept 0\nFailed 0"_s.arg(renamed + (isSwapped ? 2 : 0)));
+        const int isTurned = after > 10 ? 3 : 0;
+        const auto lines = qMin(after + 1, 10);
+        const QStringList ring = folder().filter(QRegularExpression(u"^[abc]="_s));
+        QCOMPARE(ring, isTurned > 0 ? QStringList({u"a=c"_s, u"b=a"_s, u"c=b"_s})
+                                    : QStringList({u"a=a"_s, u"b=b"_s, u"c=c"_s}));
+        QCOMPARE(tree->names(u"dir"_s).size(), 13);
+        QCOMPARE(tree->names(u"dir"_s).filter(QRegularExpression(u"^x"_s)).size(), lines);
+        QCOMPARE(report().text, u"Total 13\nProcessed %1\nKept 0\nFailed 0"_s.arg(lines + isTurned));
         QCOMPARE(report().informativeText, QString());
+        QCOMPARE(journals().constFirst().state, JournalInfo::State::Cancelled);
         // Rows have followed, and all can be taken back.
         for (const QString &path : window->rowPaths())
             QVERIFY(QFile::exists(path));
         QTRY_VERIFY(window->child<QToolButton>("buttonUndo")->isEnabled());
         window->click("buttonUndo");
         QCOMPARE(tree->names(u"dir"_s).filter(QRegularExpression(u"^x"_s)).size(), 0);
-        QVERIFY(folder().contains(u"a=a"_s));
+        QCOMPARE(folder().last(3), QStringList({u"a=a"_s, u"b=b"_s, u"c=c"_s}));
+        QCOMPARE(window->rowPaths().first(3), paths({u"a"_s, u"b"_s, u"c"_s}));
     }
 
     void cancelledBeforeAnythingIsDone()
@@ -560,6 +626,76 @@ private slots:
         openWindow();
         window->drop(paths({u"000"_s}));
         window->click("buttonPreview");
+    }
+
+    void interruptedRunIsToldAndFinished()
+    {
+        interrupt();
+        openWindow();
+        QTRY_VERIFY(window->child<QToolButton>("buttonUndo")->toolTip().endsWith(
+            u"\nThis run was interrupted; \"Runs…\" can finish it, too"_s));
+        QCOMPARE(DrivenWindow::logLines().filter(QRegularExpression(
+                     u"^The run of .* was interrupted; \"Runs…\" can finish it or put it back$"_s)).size(), 1);
+        QCOMPARE(boxes->seen.size(), 0);
+        window->drop({tree->path(u"dir/000"_s)});
+        const QString report = choose("buttonFinish");
+        QCOMPARE(report, u"Total 10\nProcessed 10\nFailed 0"_s);
+        QCOMPARE(folder().constFirst(), u"001=dir/000"_s);
+        QCOMPARE(folder().constLast(), u"010=dir/009"_s);
+        QCOMPARE(window->rowPaths(), paths({u"001"_s}));
+        QCOMPARE(journals().size(), 1);
+        QCOMPARE(journals().constFirst().state, JournalInfo::State::Complete);
+        QVERIFY(DrivenWindow::logLines().contains(u"Finishing a run started"_s));
+    }
+
+    void interruptedRunIsPutBack()
+    {
+        interrupt();
+        openWindow();
+        QCOMPARE(choose("buttonTakeBack").section(u'\n', 2), u"Failed 0"_s);
+        QCOMPARE(folder().constFirst(), u"000=dir/000"_s);
+        QCOMPARE(folder().constLast(), u"009=dir/009"_s);
+    }
+
+    void interruptedRunIsLeft()
+    {
+        interrupt();
+        const QStringList before = folder();
+        openWindow();
+        (void)choose("buttonLeave");
+        QCOMPARE(folder(), before);
+        QVERIFY(!journals().constFirst().isOpen);
+        QTRY_VERIFY(!window->child<QToolButton>("buttonUndo")->toolTip().contains(u'\n'));
+    }
+
+    void whatCannotBeFinishedIsTold()
+    {
+        interrupt();
+        tree->addFile(u"dir/004"_s, "in the way");
+        const QStringList before = folder();
+        openWindow();
+        window->drop({tree->path(u"dir/003"_s)});
+        QCOMPARE(choose("buttonFinish").section(u'\n', 2), u"Failed 4"_s);
+        QCOMPARE(report().informativeText, u"Nothing was renamed, as not every file can be."_s);
+        QVERIFY(!report().buttonTexts.values().contains(renameRest));
+        QCOMPARE(fates(), QStringList({u"taken"_s}));
+        QCOMPARE(folder(), before);
+        QVERIFY(journals().constFirst().canFinish());
+    }
+
+    void cancelLeavesItToBeFinishedLater()
+    {
+        interrupt();
+        openWindow();
+        {
+            const DuringEvents cancel = cancelAfter(2);
+            QCOMPARE(choose("buttonFinish").section(u'\n', 2), u"Failed 0"_s);
+        }
+        QCOMPARE(report().informativeText, u"The run is not finished yet."_s);
+        QVERIFY(journals().constFirst().canFinish());
+        QVERIFY(folder().contains(u"000=dir/000"_s));
+        QCOMPARE(choose("buttonFinish"), u"Total 10\nProcessed 10\nFailed 0"_s);
+        QCOMPARE(folder().constFirst(), u"001=dir/000"_s);
     }
 
     void textsFollowTheLanguage()
