@@ -39,8 +39,8 @@
         <translation>%1: nichts wird umbenannt, da %2 nicht möglich</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 von %2 Dateien haben ihren neuen Namen. Was soll aus ihnen werden?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Neue Namen bisher: %1 von %2. Alles zurücksetzen oder Erledigtes behalten?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1: no se renombrará nada, porque %2 no se pueden renombrar</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 de %2 archivos tienen su nombre nuevo. ¿Qué se hace con ellos?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nombres nuevos hasta ahora: %1 de %2. ¿Restaurar todo o conservar lo hecho?</translation>
     </message>
     <message>
         <source>Put everything back</source>

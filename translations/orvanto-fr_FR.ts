@@ -32,15 +32,15 @@
     </message>
     <message>
         <source>All or nothing: a run renames every file of the list, or none</source>
-        <translation>Tout ou rien : une exécution renomme tous les fichiers de la liste, ou aucun</translation>
+        <translation>Tout ou rien&#xa0;: une exécution renomme tous les fichiers de la liste, ou aucun</translation>
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1 : rien ne sera renommé, car %2 ne peuvent pas l’être</translation>
+        <translation>%1&#xa0;: rien ne sera renommé, car %2 ne peuvent pas l’être</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 fichiers sur %2 ont leur nouveau nom. Que faut-il en faire ?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nouveaux noms jusqu’ici&#xa0;: %1 sur %2. Tout rétablir, ou garder ce qui est fait&#xa0;?</translation>
     </message>
     <message>
         <source>Put everything back</source>
@@ -65,19 +65,19 @@
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Rien n’a été renommé : un fichier a échoué, et les autres ont retrouvé leur ancien nom.</translation>
+        <translation>Rien n’a été renommé&#xa0;: un fichier a échoué, et les autres ont retrouvé leur ancien nom.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
-        <translation>Rien n’a été renommé : l’exécution a été annulée.</translation>
+        <translation>Rien n’a été renommé&#xa0;: l’exécution a été annulée.</translation>
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>L’exécution n’a pas pu être rétablie en entier ; fichiers sans leur ancien nom : %1</translation>
+        <translation>L’exécution n’a pas pu être rétablie en entier&#xa0;; fichiers sans leur ancien nom&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
-        <translation>Rien n’a été renommé : le journal de l’exécution ne peut pas être écrit.</translation>
+        <translation>Rien n’a été renommé&#xa0;: le journal de l’exécution ne peut pas être écrit.</translation>
     </message>
     <message>
         <source>The run is not finished yet.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>Impossible de rétablir le fichier &apos;%1&apos; : il s’appelle &apos;%2&apos;</translation>
+        <translation>Impossible de rétablir le fichier &apos;%1&apos;&#xa0;: il s’appelle &apos;%2&apos;</translation>
     </message>
 </context>
 <context>

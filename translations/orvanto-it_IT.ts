@@ -39,8 +39,8 @@
         <translation>%1: niente sarà rinominato, perché %2 non possono esserlo</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 file su %2 hanno il nuovo nome. Che cosa farne?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nuovi nomi finora: %1 di %2. Ripristinare tutto o mantenere ciò che è fatto?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1：%2 個を変更できないため、何も変更されません</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%2 個のうち %1 個のファイルが新しい名前になっています。どうしますか？</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>これまでに変更した名前：%1 / %2。すべて元に戻しますか、変更した分を残しますか？</translation>
     </message>
     <message>
         <source>Put everything back</source>

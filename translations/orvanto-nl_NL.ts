@@ -39,8 +39,8 @@
         <translation>%1: niets wordt hernoemd, want %2 niet mogelijk</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 van %2 bestanden hebben hun nieuwe naam. Wat moet ermee gebeuren?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nieuwe namen tot nu toe: %1 van %2. Alles terugzetten, of behouden wat klaar is?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1 – nic nie zostanie zmienione, niemożliwe: %2</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>Nowe nazwy ma %1 z %2 plików. Co z nimi zrobić?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nowe nazwy dotychczas: %1 z %2. Przywrócić wszystko czy zachować zrobione?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1: nada será renomeado, pois %2 não podem ser</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%1 de %2 arquivos têm o novo nome. O que fazer com eles?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Novos nomes até agora: %1 de %2. Restaurar tudo ou manter o que foi feito?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1; ничего не будет переименовано, невозможно: %2</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>Новые имена у %1 из %2 файлов. Что с ними сделать?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Новых имён пока: %1 из %2. Вернуть всё или оставить сделанное?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1: hiçbiri yeniden adlandırılmayacak, %2 tanesi adlandırılamaz</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%2 dosyadan %1 tanesinin yeni adı var. Bunlara ne yapılsın?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Şimdiye kadarki yeni adlar: %1 / %2. Her şey eski hâline getirilsin mi, yoksa yapılanlar korunsun mu?</translation>
     </message>
     <message>
         <source>Put everything back</source>

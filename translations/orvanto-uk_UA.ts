@@ -39,8 +39,8 @@
         <translation>%1; нічого не буде перейменовано, неможливо: %2</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>Нові назви мають %1 з %2 файлів. Що з ними зробити?</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Нових назв поки що: %1 з %2. Повернути все чи залишити зроблене?</translation>
     </message>
     <message>
         <source>Put everything back</source>

@@ -39,8 +39,8 @@
         <translation>%1：%2 个无法重命名，因此全部不改</translation>
     </message>
     <message>
-        <source>%1 of %2 files have their new names. What shall become of them?</source>
-        <translation>%2 个文件中有 %1 个已有新名称。如何处理它们？</translation>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>目前的新名称：%1 / %2。全部恢复，还是保留已完成的？</translation>
     </message>
     <message>
         <source>Put everything back</source>

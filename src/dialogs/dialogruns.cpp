@@ -153,23 +153,22 @@ void DialogRuns::showSelected()
     buttonShowFiles->setEnabled(row >= 0 && isReadable(run));
     buttonForget->setEnabled(row >= 0 && run.state != JournalInfo::State::InHand);
     buttonForgetAll->setEnabled(model->rowCount() > 0);
-    showChoices(run);
+    showChoices(run, later);
     labelNote->setText(later ? touchedText(*later) : noteText(run));
     labelNote->setVisible(!labelNote->text().isEmpty());
 }
 
 /// Two of them are there only where some run was interrupted that can be finished.
-void DialogRuns::showChoices(const JournalInfo &run)
+void DialogRuns::showChoices(const JournalInfo &run, const JournalInfo *later)
 {
     bool isAnyUnfinished = false;
     for (int row = 0; row < model->rowCount(); ++row)
         isAnyUnfinished = isAnyUnfinished || model->run(row).canFinish();
     buttonTakeBack->setText(run.canFinish() ? putBackButtonText() : takeBackButtonText());
-    for (QPushButton *button : {buttonFinish, buttonLeave}) {
-        button->setVisible(isAnyUnfinished);
-        button->setEnabled(run.canFinish());
-    }
-    buttonFinish->setEnabled(buttonTakeBack->isEnabled() && run.canFinish());
+    buttonFinish->setVisible(isAnyUnfinished);
+    buttonFinish->setEnabled(run.canFinish() && !later);
+    buttonLeave->setVisible(isAnyUnfinished);
+    buttonLeave->setEnabled(run.canFinish());
 }
 
 void DialogRuns::finishSelected()

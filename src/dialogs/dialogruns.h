@@ -40,7 +40,7 @@ private:
     /// -1 where none is selected.
     [[nodiscard]] int selectedRow() const;
 
-    void showChoices(const JournalInfo &run);
+    void showChoices(const JournalInfo &run, const JournalInfo *later);
 
     void takeSelectedBack();
     void finishSelected();

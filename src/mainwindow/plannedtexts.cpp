@@ -24,7 +24,7 @@ QString refusedCountsText(int files, int stuck)
 
 QString cancelledQuestion(int renamed, int rows)
 {
-    return AllOrNothing::tr("%1 of %2 files have their new names. What shall become of them?")
+    return AllOrNothing::tr("New names so far: %1 of %2. Put everything back, or keep what is done?")
         .arg(QString::number(renamed), QString::number(rows));
 }
 

@@ -33,7 +33,7 @@ class Planned(Case):
         until(lambda: not own_windows(self.desktop), "the menu to close")
 
     def marks(self, window):
-        return [label for label in window.files_panel.all("label") if label.name == MARK]
+        return [image for image in window.files_panel.all("image") if image.name == MARK]
 
     def report(self, window):
         """All texts of the report, which is closed then."""
@@ -69,7 +69,7 @@ class Planned(Case):
         self.switch(window, "off")
         until_equal("3 files: 2 will be renamed, 1 keeps its name, 0 cannot", lambda: self.figures(window),
                     "what a planned run would come to")
-        mark, = self.marks(window)
+        mark, = until(lambda: self.marks(window), "the mark")
         self.screenshot("preview")
         x, y = middle_of(mark)
         window.hands._do("mousemove", x, y)
@@ -89,7 +89,7 @@ class Planned(Case):
 
         # It is kept, until it is switched off.
         window = self.start_again()
-        self.assertEqual(len(self.marks(window)), 1)
+        until_equal(1, lambda: len(self.marks(window)), "the mark of an earlier day")
         self.switch(window, "on")
         until(lambda: not self.marks(window), "the mark to go")
         self.close()
@@ -148,7 +148,7 @@ class Planned(Case):
         window = self.start(Run__AllOrNothing="true")
         window.add_by_drag(folder)
         until_equal(PHOTOS, lambda: window.files.count, "the photos")
-        window.add_rule("Trim", numbers=[5, 60])
+        window.add_rule("Trim", numbers=[60, 5])
         window.add_rule("Enumerate", numbers=[1, 4, 60])
         return folder, window
 
@@ -171,7 +171,7 @@ class Planned(Case):
             until(lambda: question.has("active"), "the question to be active")
             self.screenshot("question")
             text = [label.name for label in question.all("label") if label.name][0]
-            renamed = int(re.fullmatch(rf"(\d+) of {PHOTOS} files have their new names\. .*", text)[1])
+            renamed = int(re.fullmatch(rf"New names so far: (\d+) of {PHOTOS}\. .*", text)[1])
             self.assertLess(renamed, PHOTOS)
             window.hands.click(question.one("push button", answer))
             texts = self.report(window)

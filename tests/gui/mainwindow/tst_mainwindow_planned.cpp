@@ -411,7 +411,7 @@ private slots:
         const SeenBox &question = boxes->seen.constFirst();
         QCOMPARE(question.icon, QMessageBox::Question);
         QCOMPARE(question.parent, window->get());
-        QCOMPARE(question.text, u"5 of 10 files have their new names. What shall become of them?"_s);
+        QCOMPARE(question.text, u"New names so far: 5 of 10. Put everything back, or keep what is done?"_s);
         QCOMPARE(question.buttonTexts.values(), QStringList({putBack, keep}));
         QCOMPARE(question.defaultButton, putBack);
         QVERIFY(question.areIconsOf24);
