@@ -103,7 +103,8 @@ void Finishing::renameRest(FinishRun &run, RunProgress &progress, PlannedReport 
         goesOn = progress.goOn(run.run()->renamed()) && run.next();
     run.end();
     const PlannedRun *planned = run.run();
-    const QList<PlannedRun::Standing> standing = planned ? planned->standing() : QList<PlannedRun::Standing>();
+    const QList<PlannedRun::Standing> standing =
+        planned ? planned->standing() : QList<PlannedRun::Standing>();
     for (const auto &[row, path] : standing)
         rows.follow(run.file(row).path, path);
     // Those that had their new names before count, too.

@@ -56,7 +56,8 @@ QString notAllCanBeText()
 
 QString failedAndTakenBackText()
 {
-    return AllOrNothing::tr("Nothing was renamed: one file failed, and the others have their old names again.");
+    return AllOrNothing::tr(
+        "Nothing was renamed: one file failed, and the others have their old names again.");
 }
 
 QString cancelledAndTakenBackText()
@@ -66,7 +67,8 @@ QString cancelledAndTakenBackText()
 
 QString cannotGoBackText(qsizetype standing)
 {
-    return AllOrNothing::tr("The run could not be put back as a whole; files that do not have their old names: %1")
+    return AllOrNothing::tr(
+               "The run could not be put back as a whole; files that do not have their old names: %1")
         .arg(standing);
 }
 

@@ -33,7 +33,7 @@ class Planned(Case):
         until(lambda: not own_windows(self.desktop), "the menu to close")
 
     def marks(self, window):
-        return [image for image in window.files_panel.all("image") if image.name == MARK]
+        return [image for image in window.files_panel.all("graphic") if image.name == MARK]
 
     def report(self, window):
         """All texts of the report, which is closed then."""

@@ -225,7 +225,9 @@ private slots:
 
         select(0);
         QStringList finished;
-        dialog->finish = [&finished](const QString &run) { finished.append(run); };
+        dialog->finish = [&finished](const QString &run) {
+            finished.append(run);
+        };
         button("buttonFinish")->click();
         QCOMPARE(finished, QStringList(name));
         button("buttonLeave")->click();

@@ -168,7 +168,8 @@ private:
         window.reset();
         // The files as they were then.
         for (int number = 1; number < 5; ++number)
-            QVERIFY(QFile::rename(tree->path(u"dir/00%1"_s.arg(number)), tree->path(u"dir/00%1"_s.arg(number - 1))));
+            QVERIFY(QFile::rename(tree->path(u"dir/00%1"_s.arg(number)),
+                                  tree->path(u"dir/00%1"_s.arg(number - 1))));
         QVERIFY(writeFile(tree->path(u"undo/"_s + journals().constFirst().name), journal));
         boxes->seen.clear();
         AppLog::instance()->clearPending();
@@ -267,8 +268,8 @@ private slots:
         QCOMPARE(report().title, u"Report"_s);
         QCOMPARE(report().text, u"Total 2\nProcessed 2\nKept 0\nFailed 0"_s);
         QCOMPARE(report().informativeText, QString());
-        QCOMPARE(DrivenWindow::logLines(), QStringList({u"File renaming started"_s,
-                                                        u"Total 2 Processed 2 Kept 0 Failed 0"_s}));
+        QCOMPARE(DrivenWindow::logLines(),
+                 QStringList({u"File renaming started"_s, u"Total 2 Processed 2 Kept 0 Failed 0"_s}));
     }
 
     void takenBackAndDoneAgain()
@@ -542,8 +543,9 @@ private slots:
             run();
         }
         QCOMPARE(report().text, u"Total 10\nProcessed 2\nKept 0\nFailed 1"_s);
-        QCOMPARE(report().informativeText, u"The run could not be put back as a whole; files that do not have "
-                                           "their old names: 2"_s);
+        QCOMPARE(report().informativeText,
+                 u"The run could not be put back as a whole; files that do not have "
+                 "their old names: 2"_s);
         const QStringList lines = DrivenWindow::logLines();
         QVERIFY2(lines.contains(u"Could not put back file '009': it is called '010'"_s),
                  qPrintable(lines.join(u'\n')));
@@ -579,7 +581,8 @@ private slots:
         run();
         QCOMPARE(folder(), QStringList({u"a=a"_s, u"b=b"_s}));
         QCOMPARE(report().text, u"Total 2\nProcessed 0\nKept 0\nFailed 0"_s);
-        QCOMPARE(report().informativeText, u"Nothing was renamed: the journal of the run cannot be written."_s);
+        QCOMPARE(report().informativeText,
+                 u"Nothing was renamed: the journal of the run cannot be written."_s);
     }
 
     void previewForetellsThePlannedRun()
@@ -632,10 +635,14 @@ private slots:
     {
         interrupt();
         openWindow();
-        QTRY_VERIFY(window->child<QToolButton>("buttonUndo")->toolTip().endsWith(
-            u"\nThis run was interrupted; \"Runs…\" can finish it, too"_s));
-        QCOMPARE(DrivenWindow::logLines().filter(QRegularExpression(
-                     u"^The run of .* was interrupted; \"Runs…\" can finish it or put it back$"_s)).size(), 1);
+        QTRY_VERIFY(window->child<QToolButton>("buttonUndo")
+                        ->toolTip()
+                        .endsWith(u"\nThis run was interrupted; \"Runs…\" can finish it, too"_s));
+        QCOMPARE(DrivenWindow::logLines()
+                     .filter(QRegularExpression(
+                         u"^The run of .* was interrupted; \"Runs…\" can finish it or put it back$"_s))
+                     .size(),
+                 1);
         QCOMPARE(boxes->seen.size(), 0);
         window->drop({tree->path(u"dir/000"_s)});
         const QString report = choose("buttonFinish");
