@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "run/planjournal.h"
 #include "run/plannedrun.h"
 #include "run/undorun.h"
 
@@ -36,13 +37,13 @@ public:
     Q_DISABLE_COPY_MOVE(FinishRun)
 
     /// How many rows the run wished for.
-    [[nodiscard]] int count() const { return static_cast<int>(rows.size()); }
+    [[nodiscard]] int count() const { return static_cast<int>(told.rows.size()); }
     /// Where the row's file is, or should be, before this run; of one that has its new name already, that.
     [[nodiscard]] FilePath file(int row) const { return plan.file(row); }
     /// Renamed, Unchanged where it has its new name already, or why it cannot be.
     [[nodiscard]] Outcome outcome(int row) const;
     /// The rows that cannot be. While there are some nothing is touched: next() says false at once.
-    [[nodiscard]] int refused() const { return plan.refused() + static_cast<int>(lost.size()); }
+    [[nodiscard]] int refused() const { return refusedRows; }
     /// The rows still to be renamed.
     [[nodiscard]] int total() const { return static_cast<int>(plan.order().size()); }
 
@@ -58,29 +59,25 @@ public:
     [[nodiscard]] QString journalError() const;
 
 private:
-    struct WishedRow
-    {
-        FileStamp file;
-        QString folder;
-        QString to;
-        /// Where the journal says that the file was, the last one last.
-        QStringList places;
-    };
-
-    FinishRun(JournalFolder &folder, const QString &name, Disk &on, const DiskView &view);
-    [[nodiscard]] bool read(const JournalInfo &journal, const QSet<qint64> &gone);
-    void locate();
+    FinishRun(JournalFolder &folder, Disk &on, const DiskView &view);
+    void makePlan(const QDateTime &begun);
+    [[nodiscard]] std::optional<QString> placeOf(const PlanJournal::Row &row, const QSet<QString> &places,
+                                                 FileStamps &stamps, const QDateTime &begun);
+    void addToPlan(const PlanJournal::Row &row, const QString &place);
+    [[nodiscard]] bool resume();
 
     JournalFolder &journals;
-    QString journalName;
     Disk &disk;
-    FileStamps stamps;
-    std::vector<WishedRow> rows;
+    PlanJournal told;
+    JournalFigures figures;
+    /// Whether the run was killed between the journal's last line and what that tells.
+    bool isLastUndone = false;
     /// The rows whose files are not where the journal says.
     QHash<int, Fate> lost;
     Plan plan;
+    int refusedRows = 0;
     std::unique_ptr<Journal> journal;
     std::unique_ptr<PlannedRun> planned;
-    QString resumeError;
+    QString lastError;
     bool ended = false;
 };
