@@ -182,7 +182,7 @@ private slots:
         files->write(u"20200101T000000000Z-00000000.jsonl"_s,
                      QByteArray(bytes).replace(thisMachine().toLatin1(), "0000000000000000"));
         files->write(u"20190101T000000000Z-00000000.jsonl"_s,
-                     bytes.replace("\"version\":1", "\"version\":2"));
+                     bytes.replace("\"version\":1", "\"version\":9"));
         files->write(u"20180101T000000000Z-00000000.jsonl"_s, "garbage\n");
         open();
         QCOMPARE(states(), QStringList({u"complete"_s, u"of another machine"_s, u"of a newer version"_s,
