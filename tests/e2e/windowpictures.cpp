@@ -233,7 +233,7 @@ void showPlanned(MainWindow *window)
     showMenu(u"menu-runs"_s, [window] { child<QAbstractButton>(window, "buttonRuns")->click(); });
     child<QPushButton>(window, "buttonPreview")->click();
     const auto *label = child<QLabel>(window, "labelForecast");
-    const QString refused = refusedCountsText(3, 2);
+    const QString refused = refusedCountsText(4, 2);
     if (!QTest::qWaitFor([&] { return label->text() == refused; }, 20000))
         fail("the preview tells nothing of a planned run: "_L1 + label->text());
     tidyLog(window);
