@@ -92,7 +92,7 @@ std::optional<QString> FinishRun::placeOf(const PlanJournal::Row &row, const QSe
     // Without numbers another row's file may look the same.
     if ((row.file.number == 0 && places.contains(before)) || !stamps.isAt(before, row.file, begun))
         return std::nullopt;
-    isLastUndone = told.isLastUncertain;
+    isLastUndone = isLastUndone || (told.uncertainRow && &row == &told.rows[*told.uncertainRow]);
     return before;
 }
 

@@ -7,8 +7,6 @@
 
 #include <QHash>
 
-#include <algorithm>
-
 namespace {
 
 QString pathOf(const QString &folder, const QString &name)
@@ -27,6 +25,8 @@ struct Lines
 {
     std::vector<JournalEntry> entries;
     std::vector<JournalWish> wishes;
+    /// Whether the last entry of all may not have been done.
+    bool isLastUncertain = false;
 };
 
 Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
@@ -49,7 +49,7 @@ Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
             if (entry->number >= told.nextEntry) {
                 told.nextEntry = entry->number + 1;
                 told.filesOfLast = entry->files();
-                told.isLastUncertain = isLast;
+                found.isLastUncertain = isLast && !undone.contains(entry->number);
             }
             if (!undone.contains(entry->number))
                 found.entries.push_back(std::move(*entry));
@@ -91,7 +91,8 @@ public:
         }
     }
 
-    void follow(const JournalEntry &entry)
+    /// The row whose file goes to where the entry says.
+    std::optional<size_t> follow(const JournalEntry &entry)
     {
         const QString from = pathOf(entry.folder, entry.from);
         const QString to = pathOf(entry.folder, entry.to);
@@ -100,6 +101,7 @@ public:
         byPath.remove(from);
         place(one, to);
         place(other, from);
+        return one;
     }
 
 private:
@@ -135,7 +137,10 @@ std::optional<PlanJournal> PlanJournal::read(QFile &file, qint64 rowCount, const
         return std::nullopt;
     fillRows(std::move(lines.wishes), told.rows);
     Trace trace(told.rows);
-    std::for_each(lines.entries.crbegin(), lines.entries.crend(),
-                  [&trace](const JournalEntry &entry) { trace.follow(entry); });
+    std::optional<size_t> lastRow;
+    for (auto entry = lines.entries.crbegin(); entry != lines.entries.crend(); ++entry)
+        lastRow = trace.follow(*entry);
+    if (lines.isLastUncertain)
+        told.uncertainRow = lastRow;
     return told;
 }

@@ -28,9 +28,10 @@ struct PlanJournal
     /// Behind the last line.
     qint64 size = 0;
     qint64 nextEntry = 0;
-    /// How many files the last entry moves; whether that may not have been done.
+    /// How many files the last entry moves, and the row of the first of them where that may not have been
+    /// done.
     int filesOfLast = 1;
-    bool isLastUncertain = false;
+    std::optional<size_t> uncertainRow;
 
     /// Without the entries that were taken back. Nothing where rows are lost, or there are more or less than
     /// so many.
