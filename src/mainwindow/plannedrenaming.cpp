@@ -87,7 +87,7 @@ bool PlannedRenaming::makePlan(PlanInHand &inHand, RunProgress &progress) const
     for (int row = 0; row < parts.list.count(); ++row) {
         const FilePath file = filePaths.split(parts.list.path(row));
         inHand.plan.add(file, newName(file.name(), row));
-        if (!progress.goOn(0))
+        if (progress.isDue() && !progress.goOn(0))
             return false;
     }
     const Aside aside([&inHand] { inHand.plan.make(); });
@@ -102,7 +102,8 @@ void PlannedRenaming::tellRefused(const PlanInHand &inHand, RunProgress &progres
         const Outcome outcome = inHand.outcome(row);
         if (!outcome.isRenamed() && outcome.reason != Fate::Unchanged)
             tellNotRenamed({row, inHand.plan.file(row), outcome}, failures);
-        (void)progress.goOn(0);
+        if (progress.isDue())
+            (void)progress.goOn(0);
     }
 }
 
@@ -188,6 +189,7 @@ void PlannedRenaming::followFiles(const PlannedRun &run, const Plan &plan, RunPr
         // Events are processed meanwhile.
         if (row < parts.list.count() && parts.list.path(row) == plan.file(row).path)
             parts.list.setPath(row, path);
-        (void)progress.goOn(run.renamed());
+        if (progress.isDue())
+            (void)progress.goOn(run.renamed());
     }
 }

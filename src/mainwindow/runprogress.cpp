@@ -24,6 +24,7 @@ RunProgress::RunProgress(QWidget *parent, int total)
     dialog.setProgress(0);
     dialog.total = total;
     dialog.show();
+    sinceEvents.start();
 }
 
 bool RunProgress::goOn(int item)
@@ -32,6 +33,7 @@ bool RunProgress::goOn(int item)
     if (isCancelled() && !insists)
         return false;
     QCoreApplication::processEvents();
+    sinceEvents.start();
     if (insists)
         showAgain();
     return true;

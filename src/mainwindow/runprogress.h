@@ -6,6 +6,8 @@
 #include "mainwindow/failures.h"
 #include "mainwindow/progressdialog.h"
 
+#include <QElapsedTimer>
+
 #include <optional>
 
 /// The wait dialog of a run, and of taking one back, as long as it is not closed.
@@ -15,6 +17,8 @@ public:
     RunProgress(QWidget *parent, int total);
     void setTotal(int total) { dialog.total = total; }
 
+    /// Whether it was long ago that events were processed: for items that take no time to speak of.
+    [[nodiscard]] bool isDue() const { return sinceEvents.hasExpired(longestSlice); }
     /// To be told after each item, from 0; processes events. False when the dialog was cancelled.
     [[nodiscard]] bool goOn(int item);
     [[nodiscard]] bool isCancelled() const { return dialog.isHidden(); }
@@ -23,9 +27,12 @@ public:
     void close() { dialog.close(); }
 
 private:
+    static constexpr qint64 longestSlice = 8; // milliseconds
+
     void showAgain();
 
     ProgressDialog dialog;
+    QElapsedTimer sinceEvents;
     bool insists = false;
 };
 
