@@ -15,10 +15,8 @@ int widthOfLabels(const QGridLayout *grid)
 {
     int width = 0;
     for (int row = 0; row < grid->rowCount(); ++row) {
-        // Asked itself: the items of pages that were never shown count as empty.
-        QLayoutItem *item = grid->itemAtPosition(row, 0);
-        if (item && item->widget())
-            width = std::max(width, item->widget()->sizeHint().width());
+        if (const QLayoutItem *item = grid->itemAtPosition(row, 0))
+            width = std::max(width, item->sizeHint().width());
     }
     return width;
 }

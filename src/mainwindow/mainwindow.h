@@ -111,7 +111,6 @@ private:
     void editSettings();
 
     void retranslateTrayMenu();
-    void adoptDialogs();
     void raiseDialogs();
     void restoreWindowGeometry();
     void saveWindowSettings();

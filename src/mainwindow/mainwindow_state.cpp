@@ -126,24 +126,12 @@ void MainWindow::onRestoreWindow()
     if (trayWatch)
         trayWatch->stop();
     placeBeforeTray.clear();
-    adoptDialogs();
     if (isMaximized())
         show();
     else
         showNormal();
     activateWindow();
     raiseDialogs();
-}
-
-void MainWindow::adoptDialogs()
-{
-    create();
-    const auto dialogs = findChildren<QDialog *>(Qt::FindDirectChildrenOnly);
-    for (const QDialog *dialog : dialogs) {
-        // The native window that it blocked is gone.
-        if (QWindow *window = dialog->windowHandle(); window && !window->transientParent())
-            window->setTransientParent(windowHandle());
-    }
 }
 
 void MainWindow::raiseDialogs()

@@ -123,8 +123,8 @@ QStringList RuleSetQuestions::importFiles(QWidget *parent, const RuleSetFolder &
             tellNotRead(parent, path, error);
             continue;
         }
-        QString file;
-        error = folder.add(*set, &file);
+        QString file = path;
+        error = folder.holds(path) ? QString() : folder.add(*set, &file);
         if (error.isEmpty())
             added.append(file);
         else

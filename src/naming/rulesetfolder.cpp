@@ -109,6 +109,13 @@ QString RuleSetFolder::save(const RuleSet &set) const
     return writeRuleSet(freePath(set.name), set);
 }
 
+bool RuleSetFolder::holds(const QString &path) const
+{
+    const QString way = QFileInfo(path).canonicalPath();
+    return !way.isEmpty() && way == QFileInfo(folder).canonicalFilePath() &&
+           path.endsWith(ruleSetSuffix, Qt::CaseInsensitive);
+}
+
 QString RuleSetFolder::add(RuleSet set, QString *path) const
 {
     const QString name = set.name;

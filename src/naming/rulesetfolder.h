@@ -42,6 +42,9 @@ public:
     /// The file of the set of that name; empty where there is none.
     [[nodiscard]] QString find(const QString &name) const;
 
+    /// Whether this is the file of one of them, whatever way leads to it.
+    [[nodiscard]] bool holds(const QString &path) const;
+
     /// In the place of the one of the same name, if there is one. The error is empty when it was saved.
     [[nodiscard]] QString save(const RuleSet &set) const;
     /// Under its own name, or with a number behind it where that is in use: nothing is replaced. The path is

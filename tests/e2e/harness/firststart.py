@@ -35,7 +35,7 @@ class FirstStart:
 
     @property
     def next_button(self):
-        return self.dialog.one("push button")
+        return until(lambda: self.dialog.one("push button"), "the button")
 
     def languages(self):
         """The codes of the offered languages, from top to bottom."""

@@ -14,6 +14,8 @@ from .waiting import Gone, until, until_equal, until_still
 
 REPORT = "alert message"
 WHEEL_ROWS = 3
+# More are only needed where rows come and go: the row is looked up anew then.
+SCROLLS = 20
 SCROLL_BAR = 18
 PATIENCE = 3
 
@@ -133,16 +135,18 @@ class MainWindow:
     def _place_in_view(self, path):
         def find_place():
             row = self.explorer_row(path)
-            while True:
+            for _ in range(SCROLLS):
                 extents = until_still(lambda: row.extents, f"{path} to rest")
                 if row.name != (path.name or "/"):
                     return None
                 if top <= extents.y and extents.y + extents.height <= bottom:
                     return extents.x + min(extents.width, 30) // 2, extents.y + extents.height // 2
-                distance = (extents.y - middle) // (WHEEL_ROWS * extents.height)
-                self.hands.scroll(self.explorer, WHEEL_DOWN if distance > 0 else WHEEL_UP, max(abs(distance), 1))
+                distance = extents.y + extents.height // 2 - middle
+                clicks = max(abs(distance) // (WHEEL_ROWS * extents.height), 1)
+                self.hands.scroll(self.explorer, WHEEL_DOWN if distance > 0 else WHEEL_UP, clicks)
                 if until_still(lambda: row.extents, f"{path} to rest") == extents:
                     return None
+            return None
 
         tree, header = self.explorer.extents, self.explorer.child(0).extents
         top, bottom = header.y + header.height, tree.y + tree.height - SCROLL_BAR

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
+#include "mainwindow/activerules.h"
 #include "support/drivenwindow.h"
 #include "support/faketranslator.h"
 #include "support/modalanswer.h"
@@ -128,6 +129,19 @@ private slots:
         window->spoilRowTexts();
         window->ruleTree()->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
         QCOMPARE(window->rowTexts(), QStringList{u"spoilt"_s});
+    }
+
+    void switchingToWhereItIsIsNoChange()
+    {
+        QList<RuleData *> records;
+        ActiveRules rules(records);
+        rules.insert(0, {std::make_unique<RuleData>(), {}});
+        const QSignalSpy switched(&rules, &ActiveRules::switched);
+        rules.setOn(0, true);
+        QVERIFY(switched.isEmpty());
+        rules.setOn(0, false);
+        QCOMPARE(switched.size(), 1);
+        rules.clear();
     }
 
     void offMovesWithItsRule()

@@ -23,6 +23,13 @@ QString longer(QLatin1StringView context, const QString &text)
 
 } // namespace
 
+/// Only of a page that is shown late.
+QString longerFrom(QLatin1StringView context, const QString &text)
+{
+    return context == "Rules"_L1 && text.startsWith("Start"_L1) ? u"A label that is longer than all others"_s
+                                                                : QString();
+}
+
 /// What the window adds to the editors of the rules, and to the texts of the list.
 class MainWindowRuleEditors : public QObject
 {
@@ -91,6 +98,15 @@ private slots:
         QTRY_VERIFY(column(TrimKind) > first);
         for (const RuleKind kind : withLabels)
             QTRY_COMPARE(column(kind), column(TrimKind));
+    }
+
+    void pagesThatWereNotShownYetCountForTheColumn()
+    {
+        const FakeTranslator translator(longerFrom);
+        show();
+        const int width =
+            window->chooseKind(ReplaceKind)->fontMetrics().horizontalAdvance(u"longer than all others"_s);
+        QTRY_VERIFY(column(ReplaceKind) > width);
     }
 
     void fieldsHaveOneSizeOfFont()

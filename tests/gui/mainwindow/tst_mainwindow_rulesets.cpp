@@ -451,6 +451,11 @@ private slots:
         QCOMPARE(window->rowPaths(), QStringList{other});
         QCOMPARE(tree->names(u"rulesets"_s).size(), 1);
         QCOMPARE(readFile(path), twoRules);
+        // One that is saved already is loaded, not saved a second time.
+        window->click("buttonRuleListClear");
+        QVERIFY(dropOnRules({tree->path(u"rulesets/"_s + tree->names(u"rulesets"_s).constFirst())}));
+        QTRY_COMPARE(inserted(), u"x(y)"_s);
+        QCOMPARE(tree->names(u"rulesets"_s).size(), 1);
         // On the list of files it is a file as ever.
         window->drop({path});
         QCOMPARE(window->rowPaths(), (QStringList{other, path}));

@@ -49,6 +49,17 @@ private slots:
         folder = std::make_unique<RuleSetFolder>(tree->path(u"rulesets"_s));
     }
 
+    void holdsItsOwnFilesAlone()
+    {
+        QVERIFY(!folder->holds(tree->path(u"rulesets/A.orvanto-rules"_s)));
+        QCOMPARE(folder->save(setOf(u"A"_s)), QString());
+        QVERIFY(folder->holds(folder->find(u"A"_s)));
+        QVERIFY(folder->holds(tree->path(u"rulesets/../rulesets/A.orvanto-rules"_s)));
+        QVERIFY(!folder->holds(tree->addFile(u"A.orvanto-rules"_s)));
+        QVERIFY(!folder->holds(tree->addFile(u"rulesets/in/A.orvanto-rules"_s)));
+        QVERIFY(!folder->holds(tree->addFile(u"rulesets/A.txt"_s)));
+    }
+
     void folderIsMadeWhenFirstSaved()
     {
         QCOMPARE(names(), QStringList());
