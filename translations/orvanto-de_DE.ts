@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Alles oder nichts</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Alles oder nichts: Ein Lauf benennt alle Dateien der Liste um oder keine</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: nichts wird umbenannt, da %2 nicht möglich</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Neue Namen bisher: %1 von %2. Alles zurücksetzen oder Erledigtes behalten?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Alles zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Erledigtes behalten</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Behalten</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Mögliche umbenennen</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Nichts wurde umbenannt, da nicht jede Datei umbenannt werden kann.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Nichts wurde umbenannt: Eine Datei schlug fehl, und die anderen haben wieder ihre alten Namen.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Nichts wurde umbenannt: Der Lauf wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Der Lauf konnte nicht ganz zurückgesetzt werden; Dateien ohne ihren alten Namen: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Nichts wurde umbenannt: Das Protokoll des Laufs kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>Der Lauf ist noch nicht beendet.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Datei &apos;%1&apos; konnte nicht zurückgesetzt werden: Sie heißt &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     <message>
         <source>Runs…</source>
         <translation>Läufe…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Dieser Lauf wurde unterbrochen; „Läufe…“ kann ihn auch beenden</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Dieser Lauf sollte alle Dateien umbenennen oder keine und wurde unterbrochen. Beenden Sie ihn, setzen Sie alles zurück, oder belassen Sie die Dateien, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Belassen</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Beenden eines Laufs gestartet</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>Der Lauf von %1 wurde unterbrochen; „Läufe…“ kann ihn beenden oder zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Todo o nada</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Todo o nada: una ejecución renombra todos los archivos de la lista o ninguno</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: no se renombrará nada, porque %2 no se pueden renombrar</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nombres nuevos hasta ahora: %1 de %2. ¿Restaurar todo o conservar lo hecho?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Restaurar todo</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Conservar lo hecho</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Conservados</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Renombrar los posibles</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>No se ha renombrado nada, porque no todos los archivos se pueden renombrar.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>No se ha renombrado nada: un archivo ha fallado y los demás vuelven a tener su nombre anterior.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>No se ha renombrado nada: la ejecución se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>No se pudo restaurar toda la ejecución; archivos sin su nombre anterior: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>No se ha renombrado nada: no se puede escribir el diario de la ejecución.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>La ejecución aún no ha terminado.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>No se pudo restaurar el archivo &apos;%1&apos;: se llama &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Compruebe que el nombre sea correcto.</translation>
     <message>
         <source>Runs…</source>
         <translation>Ejecuciones…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Esta ejecución se interrumpió; «Ejecuciones…» también puede terminarla</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Esta ejecución debía renombrar todos los archivos o ninguno, y se interrumpió. Se puede terminar, restaurar todo o dejar los archivos como están.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Dejar así</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Se ha empezado a terminar una ejecución</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>La ejecución de %1 se interrumpió; «Ejecuciones…» puede terminarla o restaurarla</translation>
     </message>
 </context>
 <context>

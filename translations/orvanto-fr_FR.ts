@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Tout ou rien</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Tout ou rien&#xa0;: une exécution renomme tous les fichiers de la liste, ou aucun</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1&#xa0;: rien ne sera renommé, car %2 ne peuvent pas l’être</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nouveaux noms jusqu’ici&#xa0;: %1 sur %2. Tout rétablir, ou garder ce qui est fait&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Tout rétablir</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Garder ce qui est fait</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Gardés</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Renommer les possibles</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Rien n’a été renommé, car tous les fichiers ne peuvent pas l’être.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Rien n’a été renommé&#xa0;: un fichier a échoué, et les autres ont retrouvé leur ancien nom.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Rien n’a été renommé&#xa0;: l’exécution a été annulée.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>L’exécution n’a pas pu être rétablie en entier&#xa0;; fichiers sans leur ancien nom&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Rien n’a été renommé&#xa0;: le journal de l’exécution ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>L’exécution n’est pas encore terminée.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Impossible de rétablir le fichier &apos;%1&apos;&#xa0;: il s’appelle &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Vérifiez que son nom est correct.</translation>
     <message>
         <source>Runs…</source>
         <translation>Exécutions…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Cette exécution a été interrompue ; « Exécutions… » peut aussi la terminer</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Cette exécution devait renommer tous les fichiers ou aucun, et a été interrompue. Terminez-la, rétablissez tout, ou laissez les fichiers tels quels.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Terminer</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Laisser</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Achèvement d’une exécution commencé</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>L’exécution de %1 a été interrompue ; « Exécutions… » peut la terminer ou la rétablir</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Tutto o niente</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Tutto o niente: un’esecuzione rinomina tutti i file dell’elenco o nessuno</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: niente sarà rinominato, perché %2 non possono esserlo</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nuovi nomi finora: %1 di %2. Ripristinare tutto o mantenere ciò che è fatto?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Ripristina tutto</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Mantieni ciò che è fatto</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Mantenuti</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Rinomina quelli possibili</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Niente è stato rinominato, perché non tutti i file possono esserlo.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Niente è stato rinominato: un file non è riuscito e gli altri hanno di nuovo il vecchio nome.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Niente è stato rinominato: l’esecuzione è stata annullata.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Non è stato possibile ripristinare tutta l’esecuzione; file senza il vecchio nome: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Niente è stato rinominato: impossibile scrivere il diario dell’esecuzione.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>L’esecuzione non è ancora terminata.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Impossibile ripristinare il file &apos;%1&apos;: si chiama &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Controllare che il nome sia corretto.</translation>
     <message>
         <source>Runs…</source>
         <translation>Esecuzioni…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Questa esecuzione è stata interrotta; «Esecuzioni…» può anche terminarla</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Questa esecuzione doveva rinominare tutti i file o nessuno ed è stata interrotta. È possibile terminarla, ripristinare tutto o lasciare i file come sono.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Termina</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Lascia</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Avviato il completamento di un’esecuzione</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>L’esecuzione di %1 è stata interrotta; «Esecuzioni…» può terminarla o ripristinarla</translation>
     </message>
 </context>
 <context>

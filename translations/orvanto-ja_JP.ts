@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>すべて変更するか、何もしない</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>すべて変更するか、何もしない：一覧のすべてのファイルの名前を変更するか、1 つも変更しません</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1：%2 個を変更できないため、何も変更されません</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>これまでに変更した名前：%1 / %2。すべて元に戻しますか、変更した分を残しますか？</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>すべて元に戻す</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>変更した分を残す</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>維持</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>変更できるものだけ変更</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>変更できないファイルがあるため、何も変更しませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>何も変更しませんでした：1 個のファイルで失敗し、ほかのファイルは元の名前に戻りました。</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>何も変更しませんでした：実行はキャンセルされました。</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>実行の全体を元に戻せませんでした。元の名前でないファイル：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>何も変更しませんでした：実行の記録を書き込めません。</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>実行はまだ終わっていません。</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>ファイル &apos;%1&apos; を元に戻せませんでした：今の名前は &apos;%2&apos; です</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>実行の一覧…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>この実行は中断されました。「実行の一覧…」で続きを行うこともできます</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>この実行は、すべてのファイルの名前を変更するか何もしないはずでしたが、中断されました。続きを行うか、すべて元に戻すか、ファイルをそのままにしてください。</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>続きを行う</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>そのまま</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>中断された実行の続きを開始しました</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>%1 の実行は中断されました。「実行の一覧…」で続きを行うか元に戻せます</translation>
     </message>
 </context>
 <context>

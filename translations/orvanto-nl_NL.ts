@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Alles of niets</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Alles of niets: een uitvoering hernoemt alle bestanden van de lijst, of geen</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: niets wordt hernoemd, want %2 niet mogelijk</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nieuwe namen tot nu toe: %1 van %2. Alles terugzetten, of behouden wat klaar is?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Alles terugzetten</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Behouden wat klaar is</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Behouden</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Hernoemen wat kan</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Er is niets hernoemd, want niet elk bestand kan worden hernoemd.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Er is niets hernoemd: één bestand is mislukt, en de andere hebben hun oude naam weer.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Er is niets hernoemd: de uitvoering is geannuleerd.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>De uitvoering kon niet helemaal worden teruggezet; bestanden zonder hun oude naam: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Er is niets hernoemd: het logboek van de uitvoering kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>De uitvoering is nog niet afgemaakt.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Kon bestand &apos;%1&apos; niet terugzetten: het heet &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Controleer of de naam klopt.</translation>
     <message>
         <source>Runs…</source>
         <translation>Uitvoeringen…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Deze uitvoering is onderbroken; “Uitvoeringen…” kan haar ook afmaken</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Deze uitvoering zou alle bestanden hernoemen of geen, en is onderbroken. Maak haar af, zet alles terug, of laat de bestanden zoals ze zijn.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Terugzetten</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Afmaken</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Zo laten</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Afmaken van een uitvoering gestart</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>De uitvoering van %1 is onderbroken; “Uitvoeringen…” kan haar afmaken of terugzetten</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Wszystko albo nic</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Wszystko albo nic: przebieg zmienia nazwy wszystkich plików z listy albo żadnego</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1 – nic nie zostanie zmienione, niemożliwe: %2</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Nowe nazwy dotychczas: %1 z %2. Przywrócić wszystko czy zachować zrobione?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Przywróć wszystko</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Zachowaj zrobione</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Bez zmiany</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Zmień możliwe</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Nie zmieniono żadnej nazwy, bo nie można zmienić wszystkich.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Nie zmieniono żadnej nazwy: jeden plik zawiódł, a pozostałe mają znów dawne nazwy.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Nie zmieniono żadnej nazwy: przebieg anulowano.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Nie można było przywrócić całego przebiegu; pliki bez dawnej nazwy: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Nie zmieniono żadnej nazwy: nie można zapisać dziennika przebiegu.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>Przebieg nie jest jeszcze dokończony.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Nie można przywrócić pliku &apos;%1&apos;: nazywa się &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     <message>
         <source>Runs…</source>
         <translation>Przebiegi…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Ten przebieg został przerwany; „Przebiegi…” może go też dokończyć</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Ten przebieg miał zmienić nazwy wszystkich plików albo żadnego i został przerwany. Można go dokończyć, przywrócić wszystko albo zostawić pliki tak, jak są.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Przywróć</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Dokończ</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Zostaw</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Rozpoczęto dokańczanie przebiegu</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>Przebieg z %1 został przerwany; „Przebiegi…” może go dokończyć lub przywrócić</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Tudo ou nada</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Tudo ou nada: uma execução renomeia todos os arquivos da lista ou nenhum</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: nada será renomeado, pois %2 não podem ser</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Novos nomes até agora: %1 de %2. Restaurar tudo ou manter o que foi feito?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Restaurar tudo</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Manter o que foi feito</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Mantidos</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Renomear os possíveis</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Nada foi renomeado, pois nem todos os arquivos podem ser.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Nada foi renomeado: um arquivo falhou, e os outros têm de novo o nome antigo.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Nada foi renomeado: a execução foi cancelada.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Não foi possível restaurar toda a execução; arquivos sem o nome antigo: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Nada foi renomeado: não é possível gravar o diário da execução.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>A execução ainda não terminou.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Não foi possível restaurar o arquivo &apos;%1&apos;: ele se chama &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Verifique se o nome está correto.</translation>
     <message>
         <source>Runs…</source>
         <translation>Execuções…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Esta execução foi interrompida; “Execuções…” também pode terminá-la</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Esta execução deveria renomear todos os arquivos ou nenhum e foi interrompida. Você pode terminá-la, restaurar tudo ou deixar os arquivos como estão.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Terminar</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Deixar assim</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Conclusão de uma execução iniciada</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>A execução de %1 foi interrompida; “Execuções…” pode terminá-la ou restaurá-la</translation>
     </message>
 </context>
 <context>

@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Всё или ничего</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Всё или ничего: запуск переименовывает все файлы списка или ни одного</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1; ничего не будет переименовано, невозможно: %2</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Новых имён пока: %1 из %2. Вернуть всё или оставить сделанное?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Вернуть всё</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Оставить сделанное</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Без изменений</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Переименовать возможные</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Ничего не переименовано, так как переименовать можно не все файлы.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Ничего не переименовано: с одним файлом не удалось, остальные снова имеют прежние имена.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Ничего не переименовано: запуск отменён.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Не удалось вернуть запуск целиком; файлы без прежних имён: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Ничего не переименовано: журнал запуска нельзя записать.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>Запуск ещё не завершён.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Не удалось вернуть имя файлу &apos;%1&apos;: он называется &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>Запуски…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Этот запуск был прерван; «Запуски…» может и завершить его</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Этот запуск должен был переименовать все файлы или ни одного и был прерван. Завершите его, верните всё или оставьте файлы как есть.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Вернуть</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Завершить</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Оставить</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Завершение запуска начато</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>Запуск %1 был прерван; «Запуски…» может завершить его или вернуть всё</translation>
     </message>
 </context>
 <context>

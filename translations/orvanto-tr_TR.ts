@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Ya hep ya hiç</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Ya hep ya hiç: bir çalıştırma listedeki tüm dosyaları yeniden adlandırır ya da hiçbirini</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1: hiçbiri yeniden adlandırılmayacak, %2 tanesi adlandırılamaz</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Şimdiye kadarki yeni adlar: %1 / %2. Her şey eski hâline getirilsin mi, yoksa yapılanlar korunsun mu?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Her şeyi eski hâline getir</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Yapılanları koru</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Korunan</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Olanları yeniden adlandır</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Her dosya adlandırılamadığı için hiçbiri yeniden adlandırılmadı.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Hiçbiri yeniden adlandırılmadı: bir dosya başarısız oldu, ötekiler yine eski adlarını taşıyor.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Hiçbiri yeniden adlandırılmadı: çalıştırma iptal edildi.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Çalıştırma bütünüyle eski hâline getirilemedi; eski adını taşımayan dosyalar: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Hiçbiri yeniden adlandırılmadı: çalıştırmanın günlüğü yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>Çalıştırma henüz bitmedi.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>&apos;%1&apos; dosyası eski hâline getirilemedi: adı &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     <message>
         <source>Runs…</source>
         <translation>Çalıştırmalar…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Bu çalıştırma kesildi; “Çalıştırmalar…” onu bitirebilir de</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Bu çalıştırma tüm dosyaları ya da hiçbirini yeniden adlandıracaktı ve kesildi. Bitirin, her şeyi eski hâline getirin ya da dosyaları oldukları gibi bırakın.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Eski hâline getir</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Bitir</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Bırak</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Bir çalıştırmayı bitirme başladı</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>%1 çalıştırması kesildi; “Çalıştırmalar…” onu bitirebilir ya da eski hâline getirebilir</translation>
     </message>
 </context>
 <context>

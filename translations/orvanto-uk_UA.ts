@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>Усе або нічого</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>Усе або нічого: запуск перейменовує всі файли списку або жодного</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1; нічого не буде перейменовано, неможливо: %2</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>Нових назв поки що: %1 з %2. Повернути все чи залишити зроблене?</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>Повернути все</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>Залишити зроблене</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>Без змін</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>Перейменувати можливі</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>Нічого не перейменовано, бо перейменувати можна не всі файли.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>Нічого не перейменовано: з одним файлом не вдалося, решта знову має старі назви.</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>Нічого не перейменовано: запуск скасовано.</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>Не вдалося повернути запуск повністю; файли без старих назв: %1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>Нічого не перейменовано: журнал запуску неможливо записати.</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>Запуск ще не завершено.</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>Не вдалося повернути ім’я файлу &apos;%1&apos;: він називається &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>Запуски…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>Цей запуск було перервано; «Запуски…» може й завершити його</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>Цей запуск мав перейменувати всі файли або жодного, і його було перервано. Завершіть його, поверніть усе або залиште файли як є.</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>Повернути</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Завершити</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>Залишити</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>Завершення запуску розпочато</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>Запуск %1 було перервано; «Запуски…» може завершити його або повернути все</translation>
     </message>
 </context>
 <context>

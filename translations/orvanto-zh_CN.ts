@@ -25,6 +25,70 @@
     </message>
 </context>
 <context>
+    <name>AllOrNothing</name>
+    <message>
+        <source>All or nothing</source>
+        <translation>全部或全不</translation>
+    </message>
+    <message>
+        <source>All or nothing: a run renames every file of the list, or none</source>
+        <translation>全部或全不：一次运行重命名列表中的所有文件，或一个也不改</translation>
+    </message>
+    <message>
+        <source>%1: nothing will be renamed, as %2 cannot be</source>
+        <translation>%1：%2 个无法重命名，因此全部不改</translation>
+    </message>
+    <message>
+        <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
+        <translation>目前的新名称：%1 / %2。全部恢复，还是保留已完成的？</translation>
+    </message>
+    <message>
+        <source>Put everything back</source>
+        <translation>全部恢复</translation>
+    </message>
+    <message>
+        <source>Keep what is done</source>
+        <translation>保留已完成的</translation>
+    </message>
+    <message>
+        <source>Kept</source>
+        <extracomment>of the report: files that have the name already which the rules make; a number follows</extracomment>
+        <translation>保持原名</translation>
+    </message>
+    <message>
+        <source>Rename what can be</source>
+        <translation>重命名可以改的</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed, as not every file can be.</source>
+        <translation>未重命名任何文件，因为并非每个文件都能重命名。</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
+        <translation>未重命名任何文件：一个文件失败，其他文件已恢复原名。</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the run was cancelled.</source>
+        <translation>未重命名任何文件：运行已取消。</translation>
+    </message>
+    <message>
+        <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
+        <translation>无法恢复整个运行；未恢复原名的文件：%1</translation>
+    </message>
+    <message>
+        <source>Nothing was renamed: the journal of the run cannot be written.</source>
+        <translation>未重命名任何文件：无法写入运行的日志。</translation>
+    </message>
+    <message>
+        <source>The run is not finished yet.</source>
+        <translation>运行尚未完成。</translation>
+    </message>
+    <message>
+        <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
+        <translation>无法恢复文件 &apos;%1&apos;：它现在名为 &apos;%2&apos;</translation>
+    </message>
+</context>
+<context>
     <name>DialogNotice</name>
     <message>
         <source>Don&apos;t show this message again.</source>
@@ -1604,6 +1668,34 @@ Please verify the correct directory name was given.</source>
     <message>
         <source>Runs…</source>
         <translation>运行记录…</translation>
+    </message>
+    <message>
+        <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
+        <translation>此次运行被中断；“运行记录…”也可以完成它</translation>
+    </message>
+    <message>
+        <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
+        <translation>此次运行本应重命名所有文件或一个也不改，但被中断。请完成它、全部恢复，或让文件保持现状。</translation>
+    </message>
+    <message>
+        <source>Put back</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Leave</source>
+        <translation>保持现状</translation>
+    </message>
+    <message>
+        <source>Finishing a run started</source>
+        <translation>已开始完成一次运行</translation>
+    </message>
+    <message>
+        <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
+        <translation>%1 的运行被中断；“运行记录…”可以完成或恢复它</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 
 #include "cli/commands.h"
 
+#include "cli/classicrename.h"
 #include "cli/filecollector.h"
 #include "cli/outcometexts.h"
 #include "cli/plannedrename.h"
@@ -12,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The rows of a run in list order are told which row is in the way by the forecast alone.
 void reportConflicts(const PlannedFiles &files, const CommandLine &line, const Shell &shell)
 {
     // No file has its new path.
@@ -55,7 +55,8 @@ ExitCode apply(const CommandLine &line, const Shell &shell)
     if (found == FileCollector::Result::Failed)
         return ExitCode::NoInputOrOutput;
     PlannedFiles files(list, line.rules);
-    if (found == FileCollector::Result::Interrupted || !files.foretell(shell))
+    if (found == FileCollector::Result::Interrupted ||
+        !(line.isClassic ? files.foretell(shell) : files.makePlan(shell)))
         return tellInterrupted(shell);
     const PlanCounts counts = files.counts();
     if (counts.stuck > 0 && !line.isClassic) {
@@ -80,5 +81,5 @@ ExitCode apply(const CommandLine &line, const Shell &shell)
         return tellInterrupted(shell);
     if (!*wanted)
         return ExitCode::NothingToDo;
-    return PlannedRename(line, shell, files).run();
+    return line.isClassic ? ClassicRename(line, shell, files).run() : PlannedRename(line, shell, files).run();
 }

@@ -128,6 +128,22 @@ std::optional<OutputForm> formOf(const QCommandLineParser &parser, QString *erro
     return form;
 }
 
+/// No value where there are several.
+std::optional<RunChoice> choiceOf(const QCommandLineParser &parser)
+{
+    RunChoice choice = RunChoice::TakeBack;
+    int count = 0;
+    for (const auto &[option, meaning] :
+         {std::pair(u"finish"_s, RunChoice::Finish), std::pair(u"back"_s, RunChoice::PutBack),
+          std::pair(u"leave"_s, RunChoice::Leave)}) {
+        if (parser.isSet(option)) {
+            choice = meaning;
+            ++count;
+        }
+    }
+    return count > 1 ? std::nullopt : std::optional(choice);
+}
+
 /// Puts what the parser knows into the command line; the error is empty where it makes sense.
 QString fill(CommandLine &line, const QCommandLineParser &parser)
 {
@@ -140,6 +156,10 @@ QString fill(CommandLine &line, const QCommandLineParser &parser)
     line.isClassic = parser.isSet(u"classic"_s);
     line.isConfirmed = parser.isSet(u"yes"_s);
     line.isUndoable = !parser.isSet(u"no-undo"_s);
+    const auto choice = choiceOf(parser);
+    if (!choice)
+        return u"--finish, --back and --leave exclude each other"_s;
+    line.choice = *choice;
     if (line.isNullSeparated && !parser.isSet(u"files-from"_s))
         return u"-0 needs --files-from"_s;
     if (parser.isSet(u"files-from"_s) && line.filesFrom.isEmpty())

@@ -11,6 +11,8 @@
 
 #include <optional>
 
+/// What to do with a run: take it back, or go on with one that was interrupted.
+enum class RunChoice { TakeBack, Finish, PutBack, Leave };
 enum class ColorUse { Auto, Always, Never };
 enum class OutputForm { Text, Json, Paths, Nothing };
 
@@ -36,6 +38,7 @@ struct CommandLine
     bool isClassic = false;
     bool isConfirmed = false;
     bool isUndoable = true;
+    RunChoice choice = RunChoice::TakeBack;
 
     OutputForm form = OutputForm::Text;
     ColorUse color = ColorUse::Auto;

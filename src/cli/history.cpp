@@ -36,7 +36,7 @@ QString lineOf(const JournalInfo &run)
     const QString place = run.folders > 1 ? u"%1 folders"_s.arg(run.folders) : shellQuoted(run.folder);
     return u"%1  %2  %3 %4, %5, %6"_s.arg(nameOf(run.name), timeInWords(run.time),
                                           run.isRun() ? u"renamed"_s : u"took back"_s,
-                                          filesInWords(run.renamed), stateInWords(run), place);
+                                          filesInWords(run.files()), stateInWords(run), place);
 }
 
 } // namespace

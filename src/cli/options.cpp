@@ -45,7 +45,11 @@ constexpr auto options = std::to_array<OptionInfo>({
      Files, Proposal::Words, "none name path extension size modified"_L1},
     {"reverse"_L1, {}, "the other way round"_L1, Files},
 
-    {"classic"_L1, {}, "rename in list order and go on after a failure, as the window does"_L1, Run},
+    {"classic"_L1, {},
+     "take the files in list order and go on after a failure, as the window does: no swap, no shift"_L1, Run},
+    {"finish"_L1, {}, "go on with a run that was interrupted, to its end; the newest, if none is named"_L1, Run},
+    {"back"_L1, {}, "take back what such a run did"_L1, Run},
+    {"leave"_L1, {}, "leave everything as such a run left it, and speak of it no more"_L1, Run},
     {"yes"_L1, {}, "do not ask"_L1, Run},
     {"no-undo"_L1, {}, "write no journal: the run cannot be taken back"_L1, Run},
 
@@ -59,7 +63,7 @@ constexpr auto options = std::to_array<OptionInfo>({
     {"help"_L1, {}, "print what is known of the command and end"_L1, Other},
 });
 
-constexpr std::array previewGroups{Rules, Files, Form, Other};
+constexpr std::array previewGroups{Rules, Files, Run, Form, Other};
 constexpr std::array applyGroups{Rules, Files, Run, Form, Other};
 constexpr std::array undoGroups{Run, Form, Other};
 constexpr std::array listGroups{Form, Other};
@@ -69,11 +73,13 @@ constexpr auto commands = std::to_array<CommandInfo>({
      "Prints each file with its new name. What could not be renamed is told first, on standard error."_L1,
      previewGroups, Proposal::File, {}},
     {Command::Apply, "apply"_L1, "[FILE|FOLDER]..."_L1, "print the plan, ask, and rename"_L1,
-     "All or nothing: where a single file cannot get its new name, nothing is touched; should one fail during "
-     "the run, those before it get their old names back. A file is never overwritten."_L1,
+     "All or nothing: files may swap their names or shift them along, in whatever order they stand; where a "
+     "single file cannot get its new name, nothing is touched; should one fail during the run, those before it "
+     "get their old names back. A file is never overwritten."_L1,
      applyGroups, Proposal::File, {}},
     {Command::Undo, "undo"_L1, "[RUN]"_L1, "take a run back: the newest, or the one of that name"_L1,
-     "Runs of the window count as well. RUN is a name, or the beginning of one, as history prints it."_L1,
+     "Runs of the window count as well. RUN is a name, or the beginning of one, as history prints it. What was "
+     "interrupted between two files can be finished, taken back or left."_L1,
      undoGroups, Proposal::Run, {}},
     {Command::History, "history"_L1, {}, "list the runs that can be taken back"_L1,
      "The newest run comes first, those of the window among them."_L1,
@@ -99,8 +105,14 @@ constexpr auto exitCodes = std::to_array<std::pair<int, QLatin1StringView>>({
 bool isAmong(const OptionInfo &option, const CommandInfo &command)
 {
     const bool isList = command.command == Command::History || command.command == Command::Sets;
+    const bool isOfUnfinished =
+        option.name == "finish"_L1 || option.name == "back"_L1 || option.name == "leave"_L1;
     if (command.command == Command::Undo && option.group == Run)
-        return option.name == "yes"_L1;
+        return isOfUnfinished || option.name == "yes"_L1;
+    if (command.command == Command::Preview && option.group == Run)
+        return option.name == "classic"_L1;
+    if (isOfUnfinished)
+        return false;
     if (option.name == "print0"_L1 || option.name == "quiet"_L1)
         return !isList;
     return std::find(command.groups.begin(), command.groups.end(), option.group) != command.groups.end();

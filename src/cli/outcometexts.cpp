@@ -61,6 +61,12 @@ QString planInWords(int files, const PlanCounts &counts)
     return counts.stuck > 0 ? text + u", %1 could not be renamed"_s.arg(counts.stuck) : text;
 }
 
+QString noJournalInWords(const QString &error)
+{
+    return u"nothing was renamed: the run could not be undone, as its journal cannot be written (%1); "
+           "with --no-undo it is done all the same"_s.arg(error);
+}
+
 QString refusalInWords(UndoRun::Refusal refusal)
 {
     switch (refusal) {

@@ -19,6 +19,8 @@
 [[nodiscard]] QString planInWords(int files, const PlanCounts &counts);
 
 /// Why a run cannot be taken back.
+/// Why a run was not begun.
+[[nodiscard]] QString noJournalInWords(const QString &error);
 [[nodiscard]] QString refusalInWords(UndoRun::Refusal refusal);
 /// By what scripts know the state of a run; never changed.
 [[nodiscard]] QString idOf(const JournalInfo &run);

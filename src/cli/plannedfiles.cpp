@@ -13,10 +13,25 @@ QString PlannedFiles::newName(int row, const FilePath &file) const
     return ::newName(chain, file.name(), row);
 }
 
+bool PlannedFiles::makePlan(const Shell &shell)
+{
+    madePlan = std::make_unique<Plan>(view);
+    for (int row = 0; row < count(); ++row) {
+        const FilePath file = list.file(row);
+        madePlan->add(file, newName(row, file));
+        if (shell.isInterrupted())
+            return false;
+    }
+    madePlan->make();
+    told.reserve(static_cast<size_t>(count()));
+    for (int row = 0; row < count(); ++row)
+        told.emplace_back(madePlan->outcome(row));
+    return !shell.isInterrupted();
+}
+
 bool PlannedFiles::foretell(const Shell &shell)
 {
     Progress progress(shell);
-    const SystemDiskView view;
     Forecast forecast(view);
     for (int row = 0; row < count(); ++row) {
         forecast.add(list.file(row));

@@ -6,8 +6,9 @@
 #include "cli/pathlist.h"
 #include "cli/progress.h"
 #include "naming/chain.h"
-#include "run/outcome.h"
+#include "run/plan.h"
 
+#include <memory>
 #include <vector>
 
 /// How many rows come to what.
@@ -35,8 +36,12 @@ public:
     /// Names whose bytes are no text get one that is refused.
     [[nodiscard]] QString newName(int row, const FilePath &file) const;
 
-    /// Foretells every row; false when it was interrupted.
+    /// Plans all rows at once; false when it was interrupted.
+    [[nodiscard]] bool makePlan(const Shell &shell);
+    /// Foretells every row in the order of the list; false when it was interrupted.
     [[nodiscard]] bool foretell(const Shell &shell);
+    /// Good once it was made.
+    [[nodiscard]] const Plan &plan() const { return *madePlan; }
 
     /// What was foretold of a row, or set for it, without its path.
     [[nodiscard]] Outcome outcome(int row) const;
@@ -61,6 +66,8 @@ private:
     const PathList &list;
     const Chain &chain;
     std::vector<Told> told;
+    SystemDiskView view;
+    std::unique_ptr<Plan> madePlan;
 };
 
 /// Whether the row keeps its name although it was to get another.

@@ -5,24 +5,18 @@
 
 #include "cli/commands.h"
 #include "cli/outcometexts.h"
-#include "cli/takenbackrun.h"
+#include "cli/shellquote.h"
+#include "cli/unfinishedruns.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// What scripts are told of a file that was not tried, or has its old name back.
-const Outcome notRenamed;
-
-} // namespace
-
-PlannedRename::PlannedRename(const CommandLine &forLine, const Shell &inShell, PlannedFiles &plan)
+PlannedRename::PlannedRename(const CommandLine &forLine, const Shell &inShell, PlannedFiles &plannedFiles)
     : line(forLine)
     , shell(inShell)
-    , files(plan)
+    , files(plannedFiles)
     , report(inShell, forLine.form)
     , journals(journalFolderOf(inShell))
 {
@@ -32,113 +26,100 @@ ExitCode PlannedRename::run()
 {
     if (line.isUndoable && !beginJournal())
         return ExitCode::NoInputOrOutput;
-    End end = End::Complete;
-    if (journal) {
-        JournalledDisk disk(system, *journal);
-        end = renameAll(disk);
-        journal->end(end != End::Complete);
-    } else {
-        end = renameAll(system);
-    }
-    if (end == End::Failed)
-        takeBack();
+    PlannedRun run(system, files.plan(), journal.get());
+    renameAll(run);
+    noteOutcomes(run);
+    run.end();
     if (line.form == OutputForm::Json || line.form == OutputForm::Paths)
         report.plan(files);
-    tellEnd(end);
+    const ExitCode code = tellEnd(run);
     journals.prune();
-    if (end == End::Interrupted)
-        return ExitCode::Interrupted;
-    if (end == End::Failed)
-        return takenBack == renamed ? ExitCode::AllFailed : ExitCode::SomeFailed;
-    return exitCodeOf(renamed, failed);
+    return code;
 }
 
 bool PlannedRename::beginJournal()
 {
     QString error;
-    journal = journals.begin(QCoreApplication::applicationVersion(), files.count(), {}, &error);
+    const auto rows = static_cast<qint64>(files.plan().order().size());
+    journal = journals.beginPlanned(QCoreApplication::applicationVersion(), rows, &error);
     if (!journal)
-        shell.tell(
-            u"nothing was renamed: the run could not be undone, as its journal cannot be written (%1); "
-            "with --no-undo it is done all the same"_s.arg(error));
+        shell.tell(noJournalInWords(error));
     return journal != nullptr;
 }
 
-PlannedRename::End PlannedRename::renameAll(Disk &disk)
+void PlannedRename::renameAll(PlannedRun &run)
 {
     Progress progress(shell);
-    RenameRun rename(disk);
-    End end = End::Complete;
-    while (rename.handled() < files.count() && end == End::Complete) {
-        if (shell.isInterrupted())
-            end = End::Interrupted;
-        else if (!renameNext(rename))
-            end = End::Failed;
-        progress.show("Renamed", rename.handled(), files.count());
-    }
-    for (int row = rename.handled(); row < files.count(); ++row)
-        files.setOutcome(row, notRenamed);
-    return end;
-}
-
-bool PlannedRename::renameNext(RenameRun &rename)
-{
-    const int row = rename.handled();
-    const FilePath file = files.paths().file(row);
-    const Outcome foretold = files.outcome(row);
-    const Outcome outcome = rename.next(file, files.newName(row, file));
-    renamed += outcome.isRenamed() ? 1 : 0;
-    if (isStuck(outcome)) {
-        ++failed;
-        // The forecast knows which row is in the way.
-        if (!isStuck(foretold) || outcome.reason != Fate::Taken)
-            files.setOutcome(row, outcome);
-        if (!isStuck(foretold))
-            report.trouble(reportedRow(files, row));
-        return line.isClassic;
-    }
-    files.setOutcome(row, outcome);
-    // What could not be taken back would not be all or nothing.
-    return line.isClassic || !journal || journal->error().isEmpty();
-}
-
-void PlannedRename::takeBack()
-{
-    if (!journal || renamed == 0)
-        return;
-    const QString name = QFileInfo(journal->path()).fileName();
-    const auto begun = UndoRun::begin(journals, name, system, QCoreApplication::applicationVersion());
-    if (!begun.run)
-        return;
-    TakenBackRun taking(shell, OutputForm::Nothing);
-    taking.takeAllBack(*begun.run);
-    takenBack = static_cast<int>(taking.done());
-    if (takenBack < renamed)
-        return;
-    for (int row = 0; row < files.count(); ++row) {
-        if (files.outcome(row).isRenamed())
-            files.setOutcome(row, notRenamed);
+    for (;;) {
+        if (run.state() == PlannedRun::State::GoingOn && shell.isInterrupted()) {
+            wasInterrupted = true;
+            // Without a journal nobody could go on, nor find a file with a name between.
+            if (journal)
+                return;
+            run.takeBack();
+        }
+        if (!run.next())
+            return;
+        progress.show("Renamed", run.movesMade(), run.moveCount());
     }
 }
 
-void PlannedRename::tellEnd(End end) const
+void PlannedRename::noteOutcomes(const PlannedRun &run)
 {
-    const auto someOf = [this](int some) {
-        return u"%1 of %2"_s.arg(QString::number(some), filesInWords(files.count()));
-    };
+    if (run.state() == PlannedRun::State::Done)
+        return;
+    // Not tried, or back again.
+    for (const int row : files.plan().order())
+        files.setOutcome(row, Outcome());
+    for (const PlannedRun::Standing &standing : run.standing()) {
+        if (standing.path == files.plan().target(standing.row))
+            files.setOutcome(standing.row, files.plan().outcome(standing.row));
+    }
+    if (run.failedRow() < 0)
+        return;
+    Outcome outcome;
+    outcome.fate = outcome.reason = run.failure();
+    files.setOutcome(run.failedRow(), outcome);
+    report.trouble(reportedRow(files, run.failedRow()));
+}
+
+ExitCode PlannedRename::tellEnd(const PlannedRun &run) const
+{
+    if (run.state() == PlannedRun::State::Done) {
+        const QString all = filesInWords(files.count());
+        if (line.form == OutputForm::Text)
+            shell.tell(u"renamed "_s + (run.renamed() == files.count()
+                                            ? all
+                                            : u"%1 of %2"_s.arg(QString::number(run.renamed()), all)));
+        return ExitCode::Done;
+    }
+    if (run.state() == PlannedRun::State::TakenBack || run.movesMade() == 0)
+        return tellBack(run);
+    const QString some =
+        u"renamed %1 of %2"_s.arg(QString::number(run.renamed()), filesInWords(files.count()));
+    const QString waysOn =
+        journal ? u"; "_s + waysOnInWords(QFileInfo(journal->path()).fileName()) : QString();
+    if (run.state() == PlannedRun::State::GoingOn) {
+        shell.tell(u"interrupted: "_s + some + waysOn);
+        return ExitCode::Interrupted;
+    }
+    for (const PlannedRun::Standing &standing : run.standing())
+        shell.trouble.line(
+            u"%1 is %2"_s.arg(shellQuoted(files.paths().given(standing.row)), shellQuoted(standing.path)));
+    shell.tell(u"stopped, as one file failed and the others could not be taken back: "_s + some + waysOn);
+    return ExitCode::SomeFailed;
+}
+
+ExitCode PlannedRename::tellBack(const PlannedRun &run) const
+{
+    if (wasInterrupted) {
+        shell.tell(u"interrupted: nothing was renamed"_s);
+        return ExitCode::Interrupted;
+    }
     const bool isRecorded = !journal || journal->error().isEmpty();
     const QString why = isRecorded ? u"one file failed"_s : u"the journal cannot be written any more"_s;
-    const QString hint =
-        journal && renamed > takenBack ? u": \"orvanto-cli undo\" takes that back"_s : QString();
-    if (end == End::Interrupted)
-        shell.tell(u"interrupted: renamed %1"_s.arg(someOf(renamed)) + hint);
-    else if (end == End::Failed && takenBack == renamed)
-        shell.tell(u"nothing was renamed: %1, and those before it have their old names again"_s.arg(why));
-    else if (end == End::Failed)
-        shell.tell(u"stopped, as %1: renamed %2"_s.arg(why, someOf(renamed - takenBack)) + hint);
-    else if (line.form == OutputForm::Text)
-        shell.tell(u"renamed "_s + (renamed == files.count() ? filesInWords(renamed) : someOf(renamed)));
-    if (journal && journal->figures().unrecorded > 0)
-        shell.tell(u"the last renames cannot be taken back: %1 (%2)"_s.arg(
-            QString::number(journal->figures().unrecorded), journal->error()));
+    shell.tell(run.moveCount() == 0
+                   ? u"nothing was renamed: "_s + why
+                   : u"nothing was renamed: %1, and those before it have their old names again"_s.arg(why));
+    return ExitCode::AllFailed;
 }

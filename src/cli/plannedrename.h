@@ -8,28 +8,23 @@
 #include "cli/plannedfiles.h"
 #include "cli/rowreport.h"
 #include "run/journalfolder.h"
-#include "run/journalleddisk.h"
-#include "run/renamerun.h"
+#include "run/plannedrun.h"
 #include "run/systemdisk.h"
 
-/// Renames files whose outcomes were foretold, with a journal that the window reads, too.
+/// Renames files whose plan was made, all of them or none, with a journal that the window reads, too.
 class PlannedRename final
 {
 public:
-    PlannedRename(const CommandLine &forLine, const Shell &inShell, PlannedFiles &plan);
+    PlannedRename(const CommandLine &forLine, const Shell &inShell, PlannedFiles &plannedFiles);
 
     [[nodiscard]] ExitCode run();
 
 private:
-    enum class End { Complete, Interrupted, Failed };
-
     [[nodiscard]] bool beginJournal();
-    [[nodiscard]] End renameAll(Disk &disk);
-    /// False where the run must not go on.
-    [[nodiscard]] bool renameNext(RenameRun &rename);
-    /// Has the files back that were renamed before one failed.
-    void takeBack();
-    void tellEnd(End end) const;
+    void renameAll(PlannedRun &run);
+    void noteOutcomes(const PlannedRun &run);
+    [[nodiscard]] ExitCode tellEnd(const PlannedRun &run) const;
+    [[nodiscard]] ExitCode tellBack(const PlannedRun &run) const;
 
     const CommandLine &line;
     const Shell &shell;
@@ -38,8 +33,5 @@ private:
     JournalFolder journals;
     SystemDisk system;
     std::unique_ptr<Journal> journal;
-    int renamed = 0;
-    int failed = 0;
-    /// Of those renamed, how many have their old names again.
-    int takenBack = 0;
+    bool wasInterrupted = false;
 };

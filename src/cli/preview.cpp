@@ -17,7 +17,8 @@ ExitCode preview(const CommandLine &line, const Shell &shell)
     if (found == FileCollector::Result::Failed)
         return ExitCode::NoInputOrOutput;
     PlannedFiles files(list, line.rules);
-    if (found == FileCollector::Result::Interrupted || !files.foretell(shell))
+    if (found == FileCollector::Result::Interrupted ||
+        !(line.isClassic ? files.foretell(shell) : files.makePlan(shell)))
         return ExitCode::Interrupted;
     RowReport(shell, line.form).plan(files);
     const PlanCounts counts = files.counts();

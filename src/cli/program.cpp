@@ -5,6 +5,7 @@
 
 #include "cli/commands.h"
 #include "cli/helptext.h"
+#include "cli/unfinishedruns.h"
 #include "core/maker.h"
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,9 @@ ExitCode refuse(const QString &error, const QStringList &words, const Shell &she
 
 ExitCode runCommand(const CommandLine &line, const Shell &shell)
 {
+    // Who undoes knows already.
+    if (*line.command != Command::Undo && *line.command != Command::Sets)
+        tellUnfinishedRuns(shell);
     switch (*line.command) {
     case Command::Preview:
         return preview(line, shell);

@@ -6,6 +6,7 @@
 #include "cli/outcometexts.h"
 #include "cli/shellquote.h"
 #include "cli/takenbackrun.h"
+#include "cli/unfinishedruns.h"
 #include "run/systemdisk.h"
 
 #include <QCoreApplication>
@@ -19,8 +20,16 @@ namespace {
 
 /// The journal that is meant: one begins so, and no other, or it is the newest that stands. Empty where there
 /// is none, which is told.
-QString chosenRun(const QString &beginning, const QList<JournalInfo> &newestFirst, const Shell &shell)
+QString chosenRun(const QString &beginning, RunChoice choice, const QList<JournalInfo> &newestFirst,
+                  const Shell &shell)
 {
+    if (beginning.isEmpty() && choice != RunChoice::TakeBack) {
+        const auto open = std::find_if(newestFirst.begin(), newestFirst.end(),
+                                       [](const JournalInfo &run) { return run.canFinish(); });
+        if (open == newestFirst.end())
+            shell.tell(u"no run was interrupted"_s);
+        return open == newestFirst.end() ? QString() : open->name;
+    }
     if (beginning.isEmpty()) {
         const JournalInfo *newest = JournalFolder::undoable(newestFirst);
         if (!newest)
@@ -55,17 +64,21 @@ ExitCode exitCodeOfRefusal(UndoRun::Refusal refusal)
 
 ExitCode undo(const CommandLine &line, const Shell &shell)
 {
-    if (!line.isConfirmed && !shell.canAsk) {
+    if (!line.isConfirmed && !shell.canAsk && line.choice != RunChoice::Leave) {
         shell.tell(u"there is no terminal to ask on: --yes is needed"_s);
         return ExitCode::Usage;
     }
     JournalFolder journals(journalFolderOf(shell));
     const QList<JournalInfo> newestFirst = journals.list();
-    const QString name = chosenRun(line.operands.value(0), newestFirst, shell);
+    const QString name = chosenRun(line.operands.value(0), line.choice, newestFirst, shell);
     if (name.isEmpty())
         return ExitCode::NothingToDo;
     const auto chosen = std::find_if(newestFirst.begin(), newestFirst.end(),
                                      [&](const JournalInfo &run) { return run.name == name; });
+    if (line.choice == RunChoice::Finish)
+        return finishRun(*chosen, line, shell);
+    if (line.choice == RunChoice::Leave)
+        return leaveRun(*chosen, line, shell);
     if (!line.isConfirmed && chosen->canTakeBack()) {
         const auto answer = shell.ask(question(*chosen));
         if (!answer)
@@ -81,9 +94,13 @@ ExitCode undo(const CommandLine &line, const Shell &shell)
     }
     TakenBackRun taking(shell, line.form);
     const bool isComplete = taking.takeAllBack(*begun.run);
-    if (!isComplete || line.form == OutputForm::Text)
-        shell.tell(u"%1: %2 of %3 have their old names"_s.arg(isComplete ? u"taken back"_s : u"interrupted"_s,
-                                                              QString::number(taking.done()),
-                                                              filesInWords(begun.run->total())));
+    if (!isComplete || line.form == OutputForm::Text) {
+        // A planned run may rename a file more than once.
+        const bool isAll = isComplete && taking.done() == chosen->renamed;
+        shell.tell(u"%1: %2 of %3 have their old names"_s.arg(
+            isComplete ? u"taken back"_s : u"interrupted"_s,
+            QString::number(isAll ? chosen->files() : taking.done()),
+            filesInWords(isAll ? chosen->files() : begun.run->total())));
+    }
     return isComplete ? exitCodeOf(taking.done(), taking.failed()) : ExitCode::Interrupted;
 }

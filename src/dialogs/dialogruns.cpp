@@ -91,7 +91,9 @@ void DialogRuns::createWidgets()
     labelNote->setTextFormat(Qt::PlainText);
     labelNote->setWordWrap(true);
     auto *box = new QDialogButtonBox(this);
+    buttonFinish = addButton(box, finishButtonText(), u"buttonFinish"_s);
     buttonTakeBack = addButton(box, takeBackButtonText(), u"buttonTakeBack"_s);
+    buttonLeave = addButton(box, leaveButtonText(), u"buttonLeave"_s);
     buttonShowFiles = addButton(box, showFilesText(), u"buttonShowFiles"_s);
     buttonForget = addButton(box, forgetText(), u"buttonForget"_s);
     buttonForgetAll = addButton(box, forgetAllText(), u"buttonForgetAll"_s);
@@ -100,7 +102,9 @@ void DialogRuns::createWidgets()
     layout->addWidget(tree);
     layout->addWidget(labelNote);
     layout->addWidget(box);
+    connect(buttonFinish, &QPushButton::clicked, this, &DialogRuns::finishSelected);
     connect(buttonTakeBack, &QPushButton::clicked, this, &DialogRuns::takeSelectedBack);
+    connect(buttonLeave, &QPushButton::clicked, this, &DialogRuns::leaveSelected);
     connect(buttonShowFiles, &QPushButton::clicked, this, &DialogRuns::showFiles);
     connect(buttonForget, &QPushButton::clicked, this, &DialogRuns::forgetSelected);
     connect(buttonForgetAll, &QPushButton::clicked, this, &DialogRuns::forgetAll);
@@ -149,8 +153,37 @@ void DialogRuns::showSelected()
     buttonShowFiles->setEnabled(row >= 0 && isReadable(run));
     buttonForget->setEnabled(row >= 0 && run.state != JournalInfo::State::InHand);
     buttonForgetAll->setEnabled(model->rowCount() > 0);
+    showChoices(run, later);
     labelNote->setText(later ? touchedText(*later) : noteText(run));
     labelNote->setVisible(!labelNote->text().isEmpty());
+}
+
+/// Two of them are there only where some run was interrupted that can be finished.
+void DialogRuns::showChoices(const JournalInfo &run, const JournalInfo *later)
+{
+    bool isAnyUnfinished = false;
+    for (int row = 0; row < model->rowCount(); ++row)
+        isAnyUnfinished = isAnyUnfinished || model->run(row).canFinish();
+    buttonTakeBack->setText(run.canFinish() ? putBackButtonText() : takeBackButtonText());
+    buttonFinish->setVisible(isAnyUnfinished);
+    buttonFinish->setEnabled(run.canFinish() && !later);
+    buttonLeave->setVisible(isAnyUnfinished);
+    buttonLeave->setEnabled(run.canFinish());
+}
+
+void DialogRuns::finishSelected()
+{
+    if (selectedRow() < 0 || !finish)
+        return;
+    finish(model->run(selectedRow()).name);
+    load();
+}
+
+void DialogRuns::leaveSelected()
+{
+    if (selectedRow() >= 0)
+        (void)folder.leave(model->run(selectedRow()).name);
+    load();
 }
 
 void DialogRuns::takeSelectedBack()

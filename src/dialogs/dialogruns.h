@@ -28,6 +28,8 @@ public:
 
     /// Takes a run back, above this dialog.
     std::function<void(const QString &run)> takeBack;
+    /// Finishes a planned run that was interrupted, above this dialog.
+    std::function<void(const QString &run)> finish;
 
 private:
     void createWidgets();
@@ -38,7 +40,11 @@ private:
     /// -1 where none is selected.
     [[nodiscard]] int selectedRow() const;
 
+    void showChoices(const JournalInfo &run, const JournalInfo *later);
+
     void takeSelectedBack();
+    void finishSelected();
+    void leaveSelected();
     void showFiles();
     void forgetSelected();
     void forgetAll();
@@ -47,7 +53,9 @@ private:
     RunModel *model;
     QTreeView *tree;
     QLabel *labelNote;
+    QPushButton *buttonFinish = nullptr;
     QPushButton *buttonTakeBack = nullptr;
+    QPushButton *buttonLeave = nullptr;
     QPushButton *buttonShowFiles = nullptr;
     QPushButton *buttonForget = nullptr;
     QPushButton *buttonForgetAll = nullptr;

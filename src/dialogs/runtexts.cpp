@@ -57,6 +57,11 @@ QString takeBackText(const JournalInfo &journal)
     return Runs::tr("Take back %1 renames of %2 in %3").arg(number, time, place);
 }
 
+QString unfinishedTip()
+{
+    return Runs::tr("This run was interrupted; \"Runs…\" can finish it, too");
+}
+
 QString refusalText(UndoRun::Refusal refusal)
 {
     switch (refusal) {
@@ -122,6 +127,9 @@ QString touchedText(const JournalInfo &later)
 
 QString noteText(const JournalInfo &run)
 {
+    if (run.canFinish())
+        return Runs::tr("This run was to rename all files or none, and was interrupted. Finish it, put "
+                        "everything back, or leave the files as they are.");
     if (run.unrecorded > 0)
         return Runs::tr("The last renames of this run cannot be undone: %1").arg(run.unrecorded);
     return {};
@@ -130,6 +138,21 @@ QString noteText(const JournalInfo &run)
 QString takeBackButtonText()
 {
     return Runs::tr("Take back");
+}
+
+QString putBackButtonText()
+{
+    return Runs::tr("Put back");
+}
+
+QString finishButtonText()
+{
+    return Runs::tr("Finish");
+}
+
+QString leaveButtonText()
+{
+    return Runs::tr("Leave");
 }
 
 QString showFilesText()
@@ -202,6 +225,11 @@ QString undoStartedText()
     return Runs::tr("Taking back started");
 }
 
+QString finishStartedText()
+{
+    return Runs::tr("Finishing a run started");
+}
+
 QString notTakenBackText(const QString &name, const QString &reason)
 {
     return Runs::tr("Could not take back file '%1': %2").arg(name, reason);
@@ -211,8 +239,10 @@ QString interruptedText(const JournalInfo &journal)
 {
     if (!journal.isRun())
         return Runs::tr("An undo was interrupted; what it left can still be taken back");
-    return Runs::tr("The run of %1 was interrupted; what it renamed can be taken back")
-        .arg(timeText(journal.time));
+    const QString time = timeText(journal.time);
+    if (journal.canFinish())
+        return Runs::tr("The run of %1 was interrupted; \"Runs…\" can finish it or put it back").arg(time);
+    return Runs::tr("The run of %1 was interrupted; what it renamed can be taken back").arg(time);
 }
 
 QString unrecordedText(qint64 renames)

@@ -16,6 +16,8 @@
 [[nodiscard]] QString placeText(const JournalInfo &journal);
 /// What taking it back would do.
 [[nodiscard]] QString takeBackText(const JournalInfo &journal);
+/// That a planned run was interrupted, and where the choice is.
+[[nodiscard]] QString unfinishedTip();
 /// Why a run cannot be taken back.
 [[nodiscard]] QString refusalText(UndoRun::Refusal refusal);
 
@@ -29,6 +31,10 @@
 /// What else is to be known of a run; mostly nothing.
 [[nodiscard]] QString noteText(const JournalInfo &run);
 [[nodiscard]] QString takeBackButtonText();
+/// The same of a planned run that was interrupted, and its other choices.
+[[nodiscard]] QString putBackButtonText();
+[[nodiscard]] QString finishButtonText();
+[[nodiscard]] QString leaveButtonText();
 [[nodiscard]] QString showFilesText();
 [[nodiscard]] QString forgetText();
 [[nodiscard]] QString forgetAllText();
@@ -48,6 +54,7 @@ enum class FileNow { HasNewName, HasOldName, OtherFile, Missing };
 
 // Lines of the log.
 [[nodiscard]] QString undoStartedText();
+[[nodiscard]] QString finishStartedText();
 [[nodiscard]] QString notTakenBackText(const QString &name, const QString &reason);
 [[nodiscard]] QString interruptedText(const JournalInfo &journal);
 /// So many renames cannot be taken back; 0: all of the run.

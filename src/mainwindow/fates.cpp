@@ -3,8 +3,10 @@
 
 #include "mainwindow/fates.h"
 
+#include "mainwindow/allornothing.h"
 #include "mainwindow/fileitem.h"
 #include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/planinhand.h"
 #include "mainwindow/progressdialog.h"
 
 #include <QAbstractButton>
@@ -51,6 +53,27 @@ Fates::Fates(ListWidgetFiles &listToRefresh, const QAbstractButton &previewButto
         startAgain();
     });
     list.window()->installEventFilter(this);
+    planner.setMaxThreadCount(1);
+}
+
+Fates::~Fates()
+{
+    planner.waitForDone();
+}
+
+void Fates::follow(const AllOrNothing &ofRuns)
+{
+    allOrNothing = &ofRuns;
+    connect(allOrNothing, &AllOrNothing::changed, this, [this] {
+        list.forgetFates();
+        list.viewport()->update();
+        startAgain();
+    });
+}
+
+bool Fates::arePlanned() const
+{
+    return allOrNothing && allOrNothing->isOn();
 }
 
 void Fates::showFailures(const Failures &failures)
@@ -77,6 +100,7 @@ bool Fates::eventFilter(QObject *watched, QEvent *event)
 void Fates::startAgain()
 {
     forecast.reset();
+    plan.reset();
     stage = Stage::Texts;
     nextRow = 0;
     timer.start(0);
@@ -105,7 +129,7 @@ void Fates::work()
     }
     QElapsedTimer clock;
     clock.start();
-    while (stage != Stage::Done && clock.nsecsElapsed() < sliceLength) {
+    while (stage != Stage::Done && stage != Stage::Planning && clock.nsecsElapsed() < sliceLength) {
         if (nextRow < list.count())
             doNextRow();
         else
@@ -114,7 +138,7 @@ void Fates::work()
     list.showTexts(stage == Stage::Done);
     if (stage == Stage::Done)
         emit changed();
-    else
+    else if (stage != Stage::Planning)
         timer.start(0);
 }
 
@@ -128,15 +152,27 @@ void Fates::doNextRow()
         ++nextRow;
         break;
     case Stage::Listing:
-        forecast->add(filePaths.split(list.path(row)));
+        listRow(row);
         ++nextRow;
         break;
     case Stage::Telling:
         tellRow(row);
         break;
+    case Stage::Planning:
     case Stage::Done:
         break;
     }
+}
+
+void Fates::listRow(int row)
+{
+    const FilePath file = filePaths.split(list.path(row));
+    if (!plan) {
+        forecast->add(file);
+        return;
+    }
+    const FileItem *item = list.fileItem(row);
+    plan->plan.add(file, item ? item->shownName() : file.name());
 }
 
 void Fates::tellRow(int row)
@@ -144,9 +180,9 @@ void Fates::tellRow(int row)
     FileItem *item = list.fileItem(row);
     const FilePath file = filePaths.split(list.path(row));
     const QString newName = item ? item->shownName() : file.name();
-    if (!forecast->isReady(file, newName))
+    if (!plan && !forecast->isReady(file, newName))
         return;
-    const Outcome outcome = forecast->next(file, newName);
+    const Outcome outcome = plan ? plan->outcome(row) : forecast->next(file, newName);
     told.add(outcome);
     if (item)
         item->tell(outcome, false);
@@ -163,16 +199,47 @@ void Fates::finishStage()
             stage = Stage::Done;
             break;
         }
-        told = {};
-        forecast.emplace(disk);
-        stage = Stage::Listing;
+        beginListing();
         break;
     case Stage::Listing:
-        stage = Stage::Telling;
+        if (plan)
+            planAside();
+        else
+            stage = Stage::Telling;
         break;
     case Stage::Telling:
         forecast.reset();
+        plan.reset();
         stage = Stage::Done;
         break;
     }
+}
+
+void Fates::beginListing()
+{
+    told = {};
+    if (arePlanned())
+        plan = std::make_shared<PlanInHand>();
+    else
+        forecast.emplace(disk);
+    stage = Stage::Listing;
+}
+
+/// A plan is made in one go, which takes too long for the window.
+void Fates::planAside()
+{
+    stage = Stage::Planning;
+    planner.start([this, weak = std::weak_ptr(plan)] {
+        const std::shared_ptr<PlanInHand> inHand = weak.lock();
+        // Nobody wants it any more.
+        if (!inHand)
+            return;
+        inHand->plan.make();
+        QMetaObject::invokeMethod(this, [this, inHand] {
+            if (plan != inHand)
+                return;
+            stage = Stage::Telling;
+            timer.start(0);
+        });
+    });
 }

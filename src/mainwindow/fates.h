@@ -9,13 +9,16 @@
 #include "run/forecast.h"
 
 #include <QElapsedTimer>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <memory>
 #include <optional>
 
+class AllOrNothing;
 class ListWidgetFiles;
 class QAbstractButton;
+struct PlanInHand;
 
 /// Refreshes the file list in slices, so that the window stays alive: finds the rows' texts and, while
 /// Preview is down, what a run would come to. It starts anew with every change of the list, and looks at the
@@ -26,7 +29,11 @@ class Fates final : public QObject
 
 public:
     Fates(ListWidgetFiles &list, const QAbstractButton &preview);
+    ~Fates() override;
     Q_DISABLE_COPY_MOVE(Fates)
+
+    /// From now on runs may be planned ones, which must outlive this object.
+    void follow(const AllOrNothing &allOrNothing);
 
     /// While it lives every row gets its new text, which waits until somebody asks for it.
     class Refresh final
@@ -51,6 +58,8 @@ public:
     /// Whether all of it is told.
     [[nodiscard]] bool isDone() const { return stage == Stage::Done; }
     [[nodiscard]] const FateCounts &counts() const { return told; }
+    /// Whether what is told is that of a run that renames all rows or none.
+    [[nodiscard]] bool arePlanned() const;
 
 signals:
     /// What the functions above say, and how many rows there are.
@@ -60,15 +69,18 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Stage { Texts, Listing, Telling, Done };
+    enum class Stage { Texts, Listing, Planning, Telling, Done };
 
     void startAgain();
     void rowsChanged();
     void work();
     [[nodiscard]] bool hasToWait() const;
     void doNextRow();
+    void listRow(int row);
     void tellRow(int row);
     void finishStage();
+    void beginListing();
+    void planAside();
 
     ListWidgetFiles &list;
     const QAbstractButton &preview;
@@ -78,10 +90,15 @@ private:
     int nextRow = 0;
     SystemDiskView disk;
     FilePaths filePaths;
+    const AllOrNothing *allOrNothing = nullptr;
+    /// One of both, while there are rows to be told.
     std::optional<Forecast> forecast;
+    std::shared_ptr<PlanInHand> plan;
     FateCounts told;
 
     QTimer timer;
     /// Invalid after a refresh, which shall be seen at once.
     QElapsedTimer sinceRowsChanged;
+    /// Makes the plan; the last member, as it is waited for at the end.
+    QThreadPool planner;
 };

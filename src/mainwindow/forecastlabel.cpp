@@ -6,6 +6,7 @@
 #include "mainwindow/fates.h"
 #include "mainwindow/fileitem.h"
 #include "mainwindow/listwidgetfiles.h"
+#include "mainwindow/plannedtexts.h"
 
 #include <QMouseEvent>
 #include <QShortcut>
@@ -62,14 +63,25 @@ void ForecastLabel::refresh()
     if (!fates.areForetold())
         setText(selectionText(list.count(), selectedRows(list)));
     else
-        setText(fates.isDone() ? countsText(list.count(), fates.counts()) : checkingText());
-    const FateCounts &counts = fates.counts();
-    const bool isTroubled = fates.areForetold() && fates.isDone() && counts.stuck + counts.unknown > 0;
+        setText(fates.isDone() ? toldText() : checkingText());
+    const bool isTroubled = fates.areForetold() && fates.isDone() && rowsInTrouble() > 0;
     setToolTip(isTroubled ? troubleText() : QString());
     if (isTroubled)
         setCursor(Qt::PointingHandCursor);
     else
         unsetCursor();
+}
+
+int ForecastLabel::rowsInTrouble() const
+{
+    return fates.counts().stuck + fates.counts().unknown;
+}
+
+QString ForecastLabel::toldText() const
+{
+    const bool isRefused = fates.arePlanned() && rowsInTrouble() > 0;
+    return isRefused ? refusedCountsText(list.count(), rowsInTrouble())
+                     : countsText(list.count(), fates.counts());
 }
 
 void ForecastLabel::goToTrouble(Direction direction)

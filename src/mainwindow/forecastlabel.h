@@ -27,6 +27,8 @@ private:
     enum Direction { Backwards = -1, Onwards = 1 };
 
     void refresh();
+    [[nodiscard]] int rowsInTrouble() const;
+    [[nodiscard]] QString toldText() const;
     void goToTrouble(Direction direction);
 
     const Fates &fates;

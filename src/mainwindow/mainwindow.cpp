@@ -12,6 +12,7 @@
 #include "dialogs/dialogsettings.h"
 #include "mainwindow/activerules.h"
 #include "mainwindow/addbutton.h"
+#include "mainwindow/allornothing.h"
 #include "mainwindow/buttontips.h"
 #include "mainwindow/checkschedule.h"
 #include "mainwindow/commandids.h"
@@ -22,10 +23,12 @@
 #include "mainwindow/explorermodel.h"
 #include "mainwindow/explorerroad.h"
 #include "mainwindow/fates.h"
+#include "mainwindow/finishing.h"
 #include "mainwindow/forecastlabel.h"
 #include "mainwindow/handbookkey.h"
 #include "mainwindow/logrows.h"
 #include "mainwindow/placesrow.h"
+#include "mainwindow/plannedrenaming.h"
 #include "mainwindow/progressdialog.h"
 #include "mainwindow/ruleedit.h"
 #include "mainwindow/ruleexample.h"
@@ -162,7 +165,13 @@ void MainWindow::createUndo()
                                 on_buttonPreview_clicked();
                             }};
     takingBack = std::make_unique<TakingBack>(parts, *runHistory);
-    new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack);
+    finishing = std::make_unique<Finishing>(parts, *runHistory);
+    auto *buttons = new UndoButtons(ui->buttonUndo, ui->buttonRuns, *runHistory, *takingBack, *finishing);
+    allOrNothing = new AllOrNothing(ui->layoutUndo, this);
+    buttons->addEntry(allOrNothing->entry());
+    fates->follow(*allOrNothing);
+    plannedRenaming = std::make_unique<PlannedRenaming>(
+        parts, *runHistory, [this](const QString &name, int row) { return newName(name, row); });
 }
 
 void MainWindow::createWaysIn()

@@ -14,8 +14,11 @@
 #include <memory>
 
 class ActiveRules;
+class AllOrNothing;
 class Explorer;
 class Fates;
+class Finishing;
+class PlannedRenaming;
 class ProgressDialog;
 class QPushButton;
 class QSignalMapper;
@@ -131,6 +134,9 @@ private:
     std::unique_ptr<Fates> fates;
     RunHistory *runHistory = nullptr;
     std::unique_ptr<TakingBack> takingBack;
+    std::unique_ptr<Finishing> finishing;
+    AllOrNothing *allOrNothing = nullptr;
+    std::unique_ptr<PlannedRenaming> plannedRenaming;
     std::unique_ptr<TaskbarList> taskbarList;
     QMap<int, Rule *> ruleTypes; ///< by page of stackedWidgetRules; owned
     QList<RuleData *> ruleList;  ///< in the order of application; owned; changed by activeRules alone

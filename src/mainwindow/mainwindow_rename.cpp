@@ -5,8 +5,10 @@
 
 #include "core/applog.h"
 #include "mainwindow/activerules.h"
+#include "mainwindow/allornothing.h"
 #include "mainwindow/explorer.h"
 #include "mainwindow/fates.h"
+#include "mainwindow/plannedrenaming.h"
 #include "mainwindow/recordedrun.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/runprogress.h"
@@ -43,6 +45,10 @@ void MainWindow::on_buttonRename_clicked()
 {
     if (ui->listWidgetFiles->count() < 1)
         return;
+    if (allOrNothing->isOn()) {
+        plannedRenaming->run();
+        return;
+    }
     AppLog::instance()->append(tr("File renaming started"));
     RunProgress progress(this, ui->listWidgetFiles->count());
     ui->buttonPreview->setChecked(false);

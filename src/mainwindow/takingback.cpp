@@ -12,69 +12,18 @@
 #include "mainwindow/fatetexts.h"
 #include "mainwindow/listwidgetfiles.h"
 #include "mainwindow/recordedrun.h"
+#include "mainwindow/rowsoffiles.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/runprogress.h"
 #include "run/systemdisk.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QDir>
-#include <QHash>
 
 #include <algorithm>
 #include <limits>
 
 namespace {
-
-/// Which rows show the files that are taken back.
-class RowsOfFiles final
-{
-public:
-    explicit RowsOfFiles(ListWidgetFiles &listOfFiles)
-        : list(listOfFiles)
-        , last(list.count())
-    {
-    }
-
-    /// -1 where no row shows the file.
-    [[nodiscard]] int rowOf(const QString &path)
-    {
-        // Mostly the rows of a run, from its last to its first, or of an undo, from its first to its last.
-        for (const int row : {last - 1, last + 1, 0}) {
-            if (rows.isEmpty() && row >= 0 && row < list.count() && list.path(row) == path)
-                return last = row;
-        }
-        if (rows.isEmpty())
-            lookAtAll();
-        const int row = rows.value(keyOf(path), -1);
-        // Events are processed meanwhile.
-        return row < list.count() && (row < 0 || keyOf(list.path(row)) == keyOf(path)) ? row : -1;
-    }
-
-    /// Each row once: a run renames no row twice.
-    void follow(const UndoStep &step)
-    {
-        if (const int row = rowOf(step.from); row >= 0)
-            list.setPath(row, step.to);
-    }
-
-private:
-    /// A file that a run moved to another folder is listed by the way that led there.
-    static QString keyOf(const QString &path) { return isPlainPath(path) ? path : QDir::cleanPath(path); }
-
-    void lookAtAll()
-    {
-        rows.reserve(list.count());
-        for (int row = 0; row < list.count(); ++row)
-            rows.insert(keyOf(list.path(row)), row);
-    }
-
-    ListWidgetFiles &list;
-    /// The row found last.
-    int last;
-    /// By the paths that their files had at first; empty as long as rows follow one another.
-    QHash<QString, int> rows;
-};
 
 /// The window stays alive: a million renames of later runs take seconds to be looked through.
 UndoRun::Begun beginAside(JournalFolder &journals, const QString &journal, Disk &disk)
@@ -87,7 +36,9 @@ UndoRun::Begun beginAside(JournalFolder &journals, const QString &journal, Disk 
     return begun;
 }
 
-void refuse(UndoRun::Refusal refusal, QWidget *above)
+} // namespace
+
+void tellRefusal(UndoRun::Refusal refusal, QWidget *above)
 {
     const QString text = refusalText(refusal);
     AppLog::instance()->append(text);
@@ -96,8 +47,6 @@ void refuse(UndoRun::Refusal refusal, QWidget *above)
     addCloseButton(box, closeRunsText());
     execMessageBox(box);
 }
-
-} // namespace
 
 TakingBack::TakingBack(WindowParts windowParts, RunHistory &runHistory)
     : parts(std::move(windowParts))
@@ -139,7 +88,7 @@ void TakingBack::takeBack(const QString &journal, QWidget *above)
     if (!begun.run) {
         progress.close();
         history.refresh();
-        refuse(begun.refusal, above);
+        tellRefusal(begun.refusal, above);
         return;
     }
     UndoRun &run = *begun.run;
@@ -171,7 +120,7 @@ bool TakingBack::takeAllBack(UndoRun &run, RunProgress &progress, RunFigures &fi
     while (const auto step = run.next()) {
         if (step->isDone()) {
             ++figures.processed;
-            rows.follow(*step);
+            rows.follow(step->from, step->to);
         } else {
             ++figures.failed;
             const Fate fate = fateOf(*step);

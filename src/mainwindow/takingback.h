@@ -53,3 +53,6 @@ private:
     WindowParts parts;
     RunHistory &history;
 };
+
+/// Says in a box, and in the log, why a run is not taken back.
+void tellRefusal(UndoRun::Refusal refusal, QWidget *above);

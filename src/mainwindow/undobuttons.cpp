@@ -7,6 +7,7 @@
 #include "dialogs/runtexts.h"
 #include "mainwindow/buttontips.h"
 #include "mainwindow/fatetexts.h"
+#include "mainwindow/finishing.h"
 #include "mainwindow/runhistory.h"
 #include "mainwindow/takingback.h"
 
@@ -18,7 +19,7 @@
 using namespace Qt::StringLiterals;
 
 UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHistory &runHistory,
-                         TakingBack &takingBack)
+                         TakingBack &takingBack, Finishing &finishing)
     : QObject(undoButton->window())
     , buttonUndo(undoButton)
     , buttonRuns(runsButton)
@@ -39,11 +40,18 @@ UndoButtons::UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHi
     connect(actionUndo, &QAction::triggered, this, [&takingBack] { takingBack.undo(); });
     connect(actionRedo, &QAction::triggered, this, [&takingBack] { takingBack.redo(); });
     actionRuns->setObjectName(u"actionRuns"_s);
-    connect(actionRuns, &QAction::triggered, this, [this, &takingBack] { showRuns(takingBack); });
+    connect(actionRuns, &QAction::triggered, this,
+            [this, &takingBack, &finishing] { showRuns(takingBack, finishing); });
     connect(buttonRuns, &QToolButton::clicked, this, &UndoButtons::openMenu);
     connect(&history, &RunHistory::changed, this, &UndoButtons::showHistory);
     window->installEventFilter(this);
     retranslate();
+}
+
+void UndoButtons::addEntry(QAction *entry)
+{
+    menu->addSeparator();
+    menu->addAction(entry);
 }
 
 void UndoButtons::openMenu()
@@ -51,11 +59,14 @@ void UndoButtons::openMenu()
     menu->popup(buttonRuns->mapToGlobal(QPoint(0, buttonRuns->height())));
 }
 
-void UndoButtons::showRuns(TakingBack &takingBack)
+void UndoButtons::showRuns(TakingBack &takingBack, Finishing &finishing)
 {
     DialogRuns dialog(history.journals(), buttonRuns->window());
     dialog.takeBack = [&dialog, &takingBack](const QString &run) {
         takingBack.takeBack(run, &dialog);
+    };
+    dialog.finish = [&dialog, &finishing](const QString &run) {
+        finishing.finish(run, &dialog);
     };
     dialog.exec();
     history.refresh();
@@ -65,7 +76,9 @@ void UndoButtons::showHistory()
 {
     const auto &undoable = history.undoable();
     buttonUndo->setEnabled(undoable.has_value());
-    const QString tip = tipWithKeys(undoable ? takeBackText(*undoable) : undoText(), actionUndo->shortcuts());
+    QString tip = tipWithKeys(undoable ? takeBackText(*undoable) : undoText(), actionUndo->shortcuts());
+    if (undoable && undoable->canFinish())
+        tip += u'\n' + unfinishedTip();
     buttonUndo->setToolTip(plainToolTip(tip));
     actionUndo->setEnabled(undoable.has_value());
     actionRedo->setEnabled(history.redoable().has_value());

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+class Finishing;
 class QAction;
 class QMenu;
 class QToolButton;
@@ -20,7 +21,9 @@ class UndoButtons final : public QObject
 public:
     /// Belongs to the window of the buttons.
     UndoButtons(QToolButton *undoButton, QToolButton *runsButton, RunHistory &runHistory,
-                TakingBack &takingBack);
+                TakingBack &takingBack, Finishing &finishing);
+    /// An entry of another's, at the end of the menu.
+    void addEntry(QAction *entry);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -29,7 +32,7 @@ private:
     void showHistory();
     void retranslate();
     void openMenu();
-    void showRuns(TakingBack &takingBack);
+    void showRuns(TakingBack &takingBack, Finishing &finishing);
 
     QToolButton *buttonUndo;
     QToolButton *buttonRuns;

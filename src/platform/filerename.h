@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 /// What came of a rename.
 enum class RenameResult {
@@ -36,6 +37,9 @@ public:
 
     /// Costs least for one file of a folder after the other.
     [[nodiscard]] RenameResult rename(const QString &from, const QString &to);
+    /// Gives each the name of the other in one step, whatever they are; no value where the system or the file
+    /// system has no such step: nothing was moved then.
+    [[nodiscard]] std::optional<RenameResult> exchange(const QString &one, const QString &other);
 
 private:
     struct System;

@@ -134,3 +134,29 @@ RenameResult FileRenamer::rename(const QString &from, const QString &to)
     // cannot refuse to replace.
     return UncopiedFile(from).rename(to) ? RenameResult::Done : whyRefused(source, target);
 }
+
+std::optional<RenameResult> FileRenamer::exchange(const QString &one, const QString &other)
+{
+#ifdef RENAME_EXCHANGE
+    const char *first = system->source.of(one);
+    if (!first)
+        return RenameResult::SourceMissing;
+    const char *second = system->target.of(other);
+    if (!second)
+        return RenameResult::SourceMissing;
+    if (renameat2(AT_FDCWD, first, AT_FDCWD, second, RENAME_EXCHANGE) == 0)
+        return RenameResult::Done;
+    const int error = errno;
+    if (error == EINVAL || error == ENOSYS || error == EOPNOTSUPP)
+        return std::nullopt;
+    if (isMissing(second))
+        return RenameResult::SourceMissing;
+    // Both are there, and are to be: it is the folder that takes nothing.
+    return error == EACCES || error == EPERM || error == EROFS ? RenameResult::NotPermitted
+                                                               : meaningOf(error, first, second);
+#else
+    Q_UNUSED(one);
+    Q_UNUSED(other);
+    return std::nullopt;
+#endif
+}

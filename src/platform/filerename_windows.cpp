@@ -113,3 +113,9 @@ RenameResult FileRenamer::rename(const QString &from, const QString &to)
         return RenameResult::Done;
     return meaningOf(GetLastError(), source, target);
 }
+
+std::optional<RenameResult> FileRenamer::exchange(const QString & /*one*/, const QString & /*other*/)
+{
+    // Windows has no such step.
+    return std::nullopt;
+}

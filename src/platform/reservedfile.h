@@ -18,6 +18,9 @@ public:
     /// Makes the file, which only its owner may read, and locks it as lockFile() does. Nothing when it cannot
     /// be made, or is there already; error then says why.
     [[nodiscard]] static std::unique_ptr<ReservedFile> create(const QString &path, QString *error);
+    /// Opens one that an earlier process left, and locks it. Nothing when it cannot be written, or another
+    /// has locked it: error is empty then.
+    [[nodiscard]] static std::unique_ptr<ReservedFile> reopen(const QString &path, QString *error);
     ~ReservedFile();
     Q_DISABLE_COPY_MOVE(ReservedFile)
 
@@ -29,6 +32,8 @@ public:
     /// Has the system find memory for a piece of the window, which its first use would do, at the run's
     /// expense; false when it has it for all. May be called on any thread.
     bool touchAhead();
+    /// What stands behind so many bytes goes; before the first window.
+    [[nodiscard]] bool cut(qint64 size);
     /// Closes the window, cuts the file to so many bytes and unlocks it.
     bool finish(qint64 size);
     /// Closes and removes the file.

@@ -4,6 +4,7 @@
 #include "platform/reservedfile.h"
 
 #include "platform/filelock.h"
+#include "platform/sharedfile.h"
 
 #include <QFileInfo>
 
@@ -39,6 +40,17 @@ std::unique_ptr<ReservedFile> ReservedFile::create(const QString &path, QString 
     // Nobody else can have locked it: it was made just now, for us. Where there are no locks, there are none.
     (void)lockFile(made->file);
     return made;
+}
+
+std::unique_ptr<ReservedFile> ReservedFile::reopen(const QString &path, QString *error)
+{
+    std::unique_ptr<ReservedFile> made(new ReservedFile(path));
+    if (!openShared(made->file, QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+        *error = made->file.errorString();
+        return nullptr;
+    }
+    error->clear();
+    return lockFile(made->file) == FileLock::HeldByAnother ? nullptr : std::move(made);
 }
 
 ReservedFile::~ReservedFile()
@@ -96,6 +108,14 @@ bool ReservedFile::touchAhead()
 #else
     return false;
 #endif
+}
+
+bool ReservedFile::cut(qint64 size)
+{
+    if (file.resize(size))
+        return true;
+    lastError = file.errorString();
+    return false;
 }
 
 bool ReservedFile::finish(qint64 size)

@@ -23,6 +23,17 @@ std::unique_ptr<ReservedFile> ReservedFile::create(const QString &path, QString 
     return made;
 }
 
+std::unique_ptr<ReservedFile> ReservedFile::reopen(const QString &path, QString *error)
+{
+    std::unique_ptr<ReservedFile> made(new ReservedFile(path));
+    if (!openShared(made->file, QIODevice::ReadWrite | QIODevice::ExistingOnly)) {
+        *error = qt_error_string();
+        return nullptr;
+    }
+    error->clear();
+    return lockFile(made->file) == FileLock::HeldByAnother ? nullptr : std::move(made);
+}
+
 ReservedFile::~ReservedFile()
 {
     showWindow(nullptr, 0);
@@ -71,6 +82,14 @@ void ReservedFile::showWindow(char *memory, qsizetype size)
 bool ReservedFile::touchAhead()
 {
     // Windows has no such call.
+    return false;
+}
+
+bool ReservedFile::cut(qint64 size)
+{
+    if (file.resize(size))
+        return true;
+    lastError = file.errorString();
     return false;
 }
 

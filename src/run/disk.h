@@ -5,6 +5,7 @@
 
 #include "platform/fileidentity.h"
 #include "platform/filerename.h"
+#include "platform/volume.h"
 #include "run/filepath.h"
 
 #include <QString>
@@ -22,6 +23,15 @@ public:
 
     /// Never replaces, never copies.
     [[nodiscard]] virtual RenameResult rename(const FilePath &from, const QString &to) = 0;
+    /// Gives two files that are there each other's name, at once; no value where the system cannot. Both have
+    /// to be looked at before: whatever has the names is exchanged.
+    [[nodiscard]] virtual std::optional<RenameResult> exchange(const FilePath & /*one*/,
+                                                               const QString & /*other*/)
+    {
+        return std::nullopt;
+    }
     /// What stands at a path itself, links not followed; no value where nothing does, or nobody may look.
     [[nodiscard]] virtual std::optional<FileIdentity> identity(const QString &path) const = 0;
+    /// The file system that a path is on.
+    [[nodiscard]] virtual Volume volume(const QString &path) const { return volumeOf(path); }
 };

@@ -74,7 +74,7 @@ const Volume &FileStamps::volumeAt(const FileIdentity &there, const QString &pat
     auto known = volumes.find(there.volume);
     if (known == volumes.end()) {
         // A link leads elsewhere; its folder does not.
-        known = volumes.insert(there.volume, volumeOf(path.first(path.lastIndexOf(u'/') + 1)));
+        known = volumes.insert(there.volume, disk.volume(path.first(path.lastIndexOf(u'/') + 1)));
     }
     return *known;
 }

@@ -94,6 +94,38 @@ std::unique_ptr<Journal> Journal::create(const QString &path, const JournalHeade
     return journal;
 }
 
+std::unique_ptr<Journal> Journal::reopen(const QString &path, QString *error)
+{
+    auto opened = std::make_shared<File>();
+    opened->reserved = ReservedFile::reopen(path, error);
+    if (!opened->reserved)
+        return nullptr;
+    std::unique_ptr<Journal> journal(new Journal(opened));
+    // Nothing is to be written as long as it is not resumed.
+    journal->ended = true;
+    return journal;
+}
+
+bool Journal::resume(qint64 size, qint64 nextEntry, int filesOfLast, const JournalFigures &figures)
+{
+    if (!file->reserved->cut(size)) {
+        lastError = file->reserved->error();
+        return false;
+    }
+    endOffset = size;
+    entries = nextEntry;
+    recorded = true;
+    lastFiles = filesOfLast;
+    soFar = figures;
+    foldersBefore = std::max<qint64>(figures.folders - 1, 0);
+    resumed = true;
+    if (!makeRoom(0))
+        return false;
+    ended = false;
+    syncThreads->start([opened = file] { opened->keepSynced(); });
+    return true;
+}
+
 Journal::Journal(std::shared_ptr<File> made)
     : file(std::move(made))
 {
@@ -142,7 +174,23 @@ void Journal::append(const QByteArray &line)
     next += line.size();
 }
 
-void Journal::renaming(JournalEntryView entry)
+bool Journal::wish(JournalWishView wish)
+{
+    if (wish.folder == wishFolder)
+        wish.folder = {};
+    else
+        wishFolder = wish.folder.toString();
+    if (wish.file.volume != wishVolume && !wish.file.volume.isEmpty()) {
+        wishVolume = wish.file.volume;
+        wish.volume = wishVolume;
+    }
+    if (!makeRoom(mostBytes(wish)))
+        return false;
+    next = writeJson(wish, next);
+    return true;
+}
+
+qint64 Journal::renaming(JournalEntryView entry)
 {
     entry.number = entries++;
     recorded = makeRoom(mostBytes(entry));
@@ -150,44 +198,64 @@ void Journal::renaming(JournalEntryView entry)
         folder = entry.folder.toString();
         folderText = folderJson(folder);
         folders.insert(qHash(folder));
-        soFar.folders = folders.size();
+        soFar.folders = foldersBefore + folders.size();
     }
-    ++soFar.renamed;
+    lastFiles = entry.files();
+    soFar.renamed += lastFiles;
     if (recorded)
         next = writeJson(entry, folderText, next);
     else
-        ++soFar.unrecorded;
+        soFar.unrecorded += lastFiles;
+    return entry.number;
 }
 
 void Journal::refused(const QString &reason)
 {
-    --soFar.renamed;
+    soFar.renamed -= lastFiles;
     ++soFar.refused;
     if (recorded)
         append(toJson(JournalRefusal{.number = entries - 1, .reason = reason}));
     else
-        --soFar.unrecorded;
+        soFar.unrecorded -= lastFiles;
 }
 
-void Journal::kept(qint64 takesBack)
+void Journal::kept(const JournalKept &kept)
 {
-    const QByteArray line = toJson(JournalKept{takesBack});
+    const QByteArray line = toJson(kept);
     if (!makeRoom(line.size()))
         return;
     append(line);
-    ++soFar.kept;
+    soFar.kept += kept.files;
+}
+
+void Journal::takenBack(const JournalBack &back)
+{
+    const QByteArray line = toJson(back);
+    soFar.renamed -= back.files;
+    if (makeRoom(line.size()))
+        append(line);
 }
 
 void Journal::end(bool cancelled)
+{
+    close(cancelled ? JournalFigures::State::Cancelled : JournalFigures::State::Complete);
+}
+
+void Journal::stop()
+{
+    close(JournalFigures::State::Running);
+}
+
+void Journal::close(JournalFigures::State state)
 {
     if (ended)
         return;
     ended = true;
     const bool nothingHappened = soFar.renamed == soFar.unrecorded && soFar.kept == 0;
-    if (nothingHappened) {
+    if (nothingHappened && !resumed) {
         file->reserved->discard();
     } else {
-        soFar.state = cancelled ? JournalFigures::State::Cancelled : JournalFigures::State::Complete;
+        soFar.state = state;
         append(toJson(soFar));
         file->reserved->finish(endOffset - (windowEnd - next));
     }

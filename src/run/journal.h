@@ -18,18 +18,34 @@ public:
     /// Nothing when the file cannot be made; error then says why.
     [[nodiscard]] static std::unique_ptr<Journal> create(const QString &path, const JournalHeader &header,
                                                          QString *error);
+    /// That of an interrupted run, to go on with it: resume() before anything else. Until then it is only
+    /// held, and stays as it is. Nothing where it is in another's hand, or cannot be written; error then says
+    /// why, and is empty for the first.
+    [[nodiscard]] static std::unique_ptr<Journal> reopen(const QString &path, QString *error);
     /// A run that was not told to have ended counts as cancelled.
     ~Journal();
     Q_DISABLE_COPY_MOVE(Journal)
 
-    /// To be told before each rename; counts it as done. The entry's number is given here.
-    void renaming(JournalEntryView entry);
+    /// The journal's lines end there; the next entry has that number, and the last one moved so many files.
+    /// False when that cannot be.
+    [[nodiscard]] bool resume(qint64 size, qint64 nextEntry, int filesOfLast, const JournalFigures &figures);
+    [[nodiscard]] bool isResumed() const { return resumed; }
+
+    /// A row of a planned run, before the first rename. Without the folder and the volume, which are told
+    /// where they change. False when it is not in the journal.
+    [[nodiscard]] bool wish(JournalWishView wish);
+    /// To be told before each rename or exchange; counts it as done. The number that the entry gets.
+    qint64 renaming(JournalEntryView entry);
     /// The rename that was told last came to nothing.
     void refused(const QString &reason);
     /// See JournalKept.
-    void kept(qint64 takesBack);
+    void kept(const JournalKept &kept);
+    /// The planned run took an entry of its own back.
+    void takenBack(const JournalBack &back);
     /// The run is over. A journal in which nothing happened is removed.
     void end(bool cancelled);
+    /// The run stops and is to be gone on with: it counts as interrupted.
+    void stop();
 
     /// Waits until all that was told is on the disk, for whoever must not go on before.
     bool sync();
@@ -45,6 +61,7 @@ private:
     explicit Journal(std::shared_ptr<File> made);
     [[nodiscard]] bool makeRoom(qsizetype bytes);
     void append(const QByteArray &line);
+    void close(JournalFigures::State state);
 
     std::shared_ptr<File> file;
     QString lastError;
@@ -53,9 +70,15 @@ private:
     QSet<size_t> folders;
     QString folder;
     QByteArray folderText;
+    QString wishFolder;
+    QString wishVolume;
     qint64 entries = 0;
-    /// Whether the last entry is in the file.
+    /// Of the folders that a resumed run had seen.
+    qint64 foldersBefore = 0;
+    /// Whether the last entry is in the file, and how many files it moves.
     bool recorded = false;
+    int lastFiles = 1;
+    bool resumed = false;
     bool ended = false;
 
     /// Where the next line goes, and where the window ends.

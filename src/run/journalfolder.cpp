@@ -77,7 +77,7 @@ void countStanding(QList<JournalInfo> &newestFirst)
         if (journal.isRun())
             continue;
         // The last rename of an interrupted undo may not have been done: then it is still to be taken back.
-        const qint64 certain = journal.standing - (journal.isLastUncertain && journal.standing > 0 ? 1 : 0);
+        const qint64 certain = journal.standing - std::min<qint64>(journal.lastUncertain, journal.standing);
         takenBack[journal.takesBack] += certain + journal.kept;
         if (journal.state == JournalInfo::State::Complete)
             dealtWith.insert(journal.takesBack);
@@ -133,7 +133,8 @@ JournalInfo JournalFolder::read(const QString &name) const
     journal.kept = summary.figures.kept;
     journal.folder = summary.folder;
     journal.folders = summary.figures.folders;
-    journal.isLastUncertain = summary.isLastUncertain;
+    journal.lastUncertain = summary.lastUncertain;
+    journal.planned = summary.header->planned;
     journal.isLeft = summary.isLeft;
     journal.isEmpty = journal.state == JournalInfo::State::Interrupted && journal.renamed + journal.kept == 0;
     return journal;
@@ -151,6 +152,15 @@ QList<JournalInfo> JournalFolder::list() const
     }
     countStanding(newestFirst);
     return newestFirst;
+}
+
+std::optional<JournalInfo> JournalFolder::find(const QString &name) const
+{
+    for (const JournalInfo &journal : list()) {
+        if (journal.name == name)
+            return journal;
+    }
+    return std::nullopt;
 }
 
 const JournalInfo *JournalFolder::undoable(const QList<JournalInfo> &newestFirst)
@@ -181,11 +191,26 @@ const JournalInfo *JournalFolder::redoable(const QList<JournalInfo> &newestFirst
 std::unique_ptr<Journal> JournalFolder::begin(const QString &program, qint64 rows, const QString &takesBack,
                                               QString *error)
 {
-    const JournalHeader header{.time = QDateTime::currentDateTimeUtc(),
-                               .program = program,
-                               .machine = thisMachine(),
-                               .rows = rows,
-                               .takesBack = takesBack};
+    return begin({.time = {}, .program = program, .machine = {}, .rows = rows, .takesBack = takesBack},
+                 error);
+}
+
+std::unique_ptr<Journal> JournalFolder::beginPlanned(const QString &program, qint64 rows, QString *error)
+{
+    return begin({.version = journalVersion,
+                  .time = {},
+                  .program = program,
+                  .machine = {},
+                  .rows = rows,
+                  .takesBack = {},
+                  .planned = rows},
+                 error);
+}
+
+std::unique_ptr<Journal> JournalFolder::begin(JournalHeader header, QString *error)
+{
+    header.time = QDateTime::currentDateTimeUtc();
+    header.machine = thisMachine();
     const QDir folder(path);
     QDir().mkpath(QFileInfo(path).absolutePath());
     if (!folder.exists())

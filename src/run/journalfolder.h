@@ -57,7 +57,15 @@ struct JournalInfo
     qint64 bytes = 0;
     /// Whether an interrupted run was neither taken back nor left alone.
     bool isOpen = false;
+    /// Of a planned run how many rows it wished for; otherwise 0. Its renames may be more: a row can need
+    /// several.
+    qint64 planned = 0;
 
+    /// How many files it renamed, as far as that is known: a planned run may rename some more than once.
+    [[nodiscard]] qint64 files() const
+    {
+        return planned > 0 && state == State::Complete && renamed > 0 ? planned : renamed;
+    }
     /// Whether this is a run of its own.
     [[nodiscard]] bool isRun() const { return takesBack.isEmpty(); }
     /// Whether the renames that stand can be taken back.
@@ -66,6 +74,9 @@ struct JournalInfo
         return standing > 0 &&
                (state == State::Complete || state == State::Cancelled || state == State::Interrupted);
     }
+    /// Whether this is a planned run that was interrupted: FinishRun finishes it, UndoRun puts it back,
+    /// leave() has it be. An undo that was interrupted on the way leaves it so.
+    [[nodiscard]] bool canFinish() const { return planned > 0 && isOpen; }
     [[nodiscard]] bool isTakenBack() const { return renamed > 0 && standing == 0; }
     [[nodiscard]] bool isPartlyTakenBack() const { return standing > 0 && standing < renamed; }
 
@@ -73,7 +84,7 @@ struct JournalInfo
     qint64 kept = 0;
     /// Whether no rename is in it, and none will be.
     bool isEmpty = false;
-    bool isLastUncertain = false;
+    int lastUncertain = 0;
     bool isLeft = false;
 };
 
@@ -89,6 +100,8 @@ public:
 
     /// All journals, the newest first.
     [[nodiscard]] QList<JournalInfo> list() const;
+    /// The journal of that name; no value where there is none.
+    [[nodiscard]] std::optional<JournalInfo> find(const QString &name) const;
     /// The run that Undo takes back: the newest that still stands, at least in part. Null when there is none.
     [[nodiscard]] static const JournalInfo *undoable(const QList<JournalInfo> &newestFirst);
     /// The undo that Redo takes back: the newest since the last run. Null when there is none.
@@ -104,6 +117,10 @@ public:
     /// then says why, for a log.
     [[nodiscard]] std::unique_ptr<Journal> begin(const QString &program, qint64 rows,
                                                  const QString &takesBack, QString *error);
+    /// The same for a planned run of so many rows to be renamed: see PlannedRun.
+    [[nodiscard]] std::unique_ptr<Journal> beginPlanned(const QString &program, qint64 rows, QString *error);
+    /// The same for what the header says; its time and machine are of no account.
+    [[nodiscard]] std::unique_ptr<Journal> begin(JournalHeader header, QString *error);
     /// Removes what is too much, the oldest first, and what holds nothing. To be called after a run.
     void prune();
     /// An interrupted run is done with, without being taken back.

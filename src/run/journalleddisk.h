@@ -16,6 +16,7 @@ public:
 
     [[nodiscard]] RenameResult rename(const FilePath &from, const QString &to) override;
     [[nodiscard]] std::optional<FileIdentity> identity(const QString &path) const override;
+    [[nodiscard]] Volume volume(const QString &path) const override { return disk.volume(path); }
 
 private:
     /// Whether the file has its new name although the system said that the rename failed.

@@ -36,6 +36,30 @@ void add(JsonWriter &json, QByteArrayView name, QStringView text)
     json.text(text);
 }
 
+/// As a text: numbers of files may be larger than what other readers keep of a number.
+void addNumber(JsonWriter &json, QByteArrayView name, quint64 number)
+{
+    json.raw(name);
+    json.number(number);
+    json.raw(R"(")");
+}
+
+void addWhich(JsonWriter &json, const FileStamp &file)
+{
+    if (file.number != 0) {
+        addNumber(json, R"(,"file":")", file.number);
+        return;
+    }
+    add(json, R"(,"size":)", file.size);
+    add(json, R"(,"modified":)", file.modified);
+}
+
+void addFiles(JsonWriter &json, int files)
+{
+    if (files > 1)
+        add(json, R"(,"files":)", files);
+}
+
 std::optional<QDateTime> timeOf(const JsonObject &object)
 {
     const QDateTime time = QDateTime::fromString(object.text("time").value_or(QString()), Qt::ISODateWithMs);
@@ -50,19 +74,49 @@ JournalLine headerOf(const JsonObject &object, bool isUndo)
     const auto takesBack = object.text("of");
     if (!object.has("format", "orvanto-journal") || version.value_or(0) < 1 || !time)
         return {};
+    const qint64 planned = object.number("planned").value_or(0);
     // A newer one may say the rest in other ways.
-    if (*version <= journalVersion &&
-        (rows.value_or(-1) < 0 || takesBack.value_or(QString()).isEmpty() == isUndo))
+    if (*version <= journalVersion && (rows.value_or(-1) < 0 || planned < 0 || planned > mostFiles ||
+                                       takesBack.value_or(QString()).isEmpty() == isUndo))
         return {};
     return JournalHeader{.version = *version,
                          .time = *time,
                          .program = object.text("program").value_or(QString()),
                          .machine = object.text("machine").value_or(QString()),
                          .rows = rows.value_or(0),
-                         .takesBack = takesBack.value_or(QString())};
+                         .takesBack = takesBack.value_or(QString()),
+                         .planned = planned};
 }
 
-JournalLine entryOf(const JsonObject &object)
+FileStamp stampOf(const JsonObject &object)
+{
+    return {.volume = object.text("volume").value_or(QString()),
+            .number = object.text("file").value_or(QString()).toULongLong(),
+            .size = object.number("size").value_or(0),
+            .modified = object.number("modified").value_or(0)};
+}
+
+JournalLine wishOf(const JsonObject &object)
+{
+    auto from = object.text("from");
+    auto to = object.text("to");
+    if (!from || !to)
+        return {};
+    return JournalWish{.folder = object.text("folder"),
+                       .from = std::move(*from),
+                       .to = std::move(*to),
+                       .file = stampOf(object),
+                       .isStamped = object.text("file") || object.number("size")};
+}
+
+/// Of one file, or of both of an exchange.
+std::optional<int> filesOf(const JsonObject &object)
+{
+    const qint64 files = object.number("files").value_or(1);
+    return files == 1 || files == 2 ? std::optional(static_cast<int>(files)) : std::nullopt;
+}
+
+JournalLine entryOf(const JsonObject &object, bool isExchange)
 {
     const auto number = object.number("n");
     auto folder = object.text("folder");
@@ -70,16 +124,21 @@ JournalLine entryOf(const JsonObject &object)
     auto to = object.text("to");
     if (number.value_or(-1) < 0 || !folder || !from || !to || object.number("of").value_or(0) < 0)
         return {};
-    FileStamp file{.volume = object.text("volume").value_or(QString()),
-                   .size = object.number("size").value_or(0),
-                   .modified = object.number("modified").value_or(0)};
-    file.number = object.text("file").value_or(QString()).toULongLong();
+    FileStamp file = stampOf(object);
+    std::optional<FileStamp> other;
+    if (isExchange) {
+        other = FileStamp{.volume = file.volume,
+                          .number = object.text("other").value_or(QString()).toULongLong()};
+        if (file.number == 0 || other->number == 0)
+            return {};
+    }
     return JournalEntry{.number = *number,
                         .takesBack = object.number("of").value_or(-1),
                         .folder = std::move(*folder),
                         .from = std::move(*from),
                         .to = std::move(*to),
-                        .file = std::move(file)};
+                        .file = std::move(file),
+                        .other = std::move(other)};
 }
 
 JournalLine figuresOf(const JsonObject &object)
@@ -119,6 +178,8 @@ QByteArray toJson(const JournalHeader &header)
         add(json, R"(,"rows":)", header.rows);
         if (!header.takesBack.isEmpty())
             add(json, R"(,"of":)", header.takesBack);
+        if (header.planned > 0)
+            add(json, R"(,"planned":)", header.planned);
     });
 }
 
@@ -137,10 +198,33 @@ QByteArray folderJson(QStringView folder)
     return bytes;
 }
 
+qsizetype mostBytes(const JournalWishView &wish)
+{
+    return forTheRest +
+           JsonWriter::mostBytes(wish.folder.size() + wish.from.size() + wish.to.size() + wish.volume.size());
+}
+
+char *writeJson(const JournalWishView &wish, char *memory)
+{
+    JsonWriter json(memory);
+    json.raw(R"({"kind":"wish")");
+    if (!wish.folder.isNull())
+        add(json, R"(,"folder":)", wish.folder);
+    add(json, R"(,"from":)", wish.from);
+    add(json, R"(,"to":)", wish.to);
+    if (!wish.volume.isEmpty())
+        add(json, R"(,"volume":)", wish.volume);
+    if (!wish.file.volume.isEmpty())
+        addWhich(json, wish.file);
+    json.raw("}\n");
+    return json.end();
+}
+
 char *writeJson(const JournalEntryView &entry, QByteArrayView folder, char *memory)
 {
     JsonWriter json(memory);
-    add(json, R"({"kind":"rename","n":)", entry.number);
+    json.raw(entry.other ? R"({"kind":"exchange")" : R"({"kind":"rename")");
+    add(json, R"(,"n":)", entry.number);
     if (entry.takesBack >= 0)
         add(json, R"(,"of":)", entry.takesBack);
     json.raw(R"(,"folder":)");
@@ -149,24 +233,23 @@ char *writeJson(const JournalEntryView &entry, QByteArrayView folder, char *memo
     add(json, R"(,"to":)", entry.to);
     if (!entry.file.volume.isEmpty()) {
         add(json, R"(,"volume":)", entry.file.volume);
-        if (entry.file.number != 0) {
-            // A text: numbers of files may be larger than what other readers keep of a number.
-            json.raw(R"(,"file":")");
-            json.number(entry.file.number);
-            json.raw(R"(")");
-        } else {
-            add(json, R"(,"size":)", entry.file.size);
-            add(json, R"(,"modified":)", entry.file.modified);
-        }
+        addWhich(json, entry.file);
     }
+    if (entry.other)
+        addNumber(json, R"(,"other":")", entry.other->number);
     json.raw("}\n");
     return json.end();
 }
 
 QByteArray toJson(const JournalEntry &entry)
 {
-    const JournalEntryView view{entry.number, entry.takesBack, entry.folder,
-                                entry.from,   entry.to,        entry.file};
+    const JournalEntryView view{entry.number,
+                                entry.takesBack,
+                                entry.folder,
+                                entry.from,
+                                entry.to,
+                                entry.file,
+                                entry.other ? &*entry.other : nullptr};
     QByteArray bytes(mostBytes(view), Qt::Uninitialized);
     bytes.truncate(writeJson(view, folderJson(entry.folder), bytes.data()) - bytes.data());
     return bytes;
@@ -182,7 +265,18 @@ QByteArray toJson(const JournalRefusal &refusal)
 
 QByteArray toJson(const JournalKept &kept)
 {
-    return line(0, [&](JsonWriter &json) { add(json, R"({"kind":"kept","of":)", kept.takesBack); });
+    return line(0, [&](JsonWriter &json) {
+        add(json, R"({"kind":"kept","of":)", kept.takesBack);
+        addFiles(json, kept.files);
+    });
+}
+
+QByteArray toJson(const JournalBack &back)
+{
+    return line(0, [&](JsonWriter &json) {
+        add(json, R"({"kind":"back","n":)", back.number);
+        addFiles(json, back.files);
+    });
 }
 
 QByteArray toJson(const JournalFigures &figures)
@@ -210,15 +304,22 @@ JournalLine fromJson(QByteArrayView line)
     if (!object)
         return {};
     if (object->has("kind", "rename"))
-        return entryOf(*object);
+        return entryOf(*object, false);
+    if (object->has("kind", "wish"))
+        return wishOf(*object);
+    if (object->has("kind", "exchange"))
+        return entryOf(*object, true);
     if (object->has("kind", "run") || object->has("kind", "undo"))
         return headerOf(*object, object->has("kind", "undo"));
     const qint64 number = object->number("n").value_or(-1);
     if (object->has("kind", "refused") && number >= 0)
         return JournalRefusal{.number = number, .reason = object->text("why").value_or(QString())};
     const qint64 takesBack = object->number("of").value_or(-1);
-    if (object->has("kind", "kept") && takesBack >= 0)
-        return JournalKept{.takesBack = takesBack};
+    const auto files = filesOf(*object);
+    if (object->has("kind", "kept") && takesBack >= 0 && files)
+        return JournalKept{.takesBack = takesBack, .files = *files};
+    if (object->has("kind", "back") && number >= 0 && files)
+        return JournalBack{.number = number, .files = *files};
     if (object->has("kind", "end") || object->has("kind", "so far"))
         return figuresOf(*object);
     return object->has("kind", "left") ? JournalLine(JournalLeft()) : JournalLine();

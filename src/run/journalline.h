@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
 #include <variant>
 
 /// The lines of a journal. Each is a JSON object whose members are texts and whole numbers.
@@ -23,6 +24,8 @@ struct JournalHeader
     qint64 rows = 0;
     /// The journal of the run that this one takes back; empty for a run that takes none back.
     QString takesBack;
+    /// Of a planned run how many rows it writes ahead; otherwise 0.
+    qint64 planned = 0;
 };
 
 /// By what a file is known again, whatever it is called and whatever was written into it.
@@ -50,6 +53,40 @@ struct JournalEntry
     QString from;
     QString to;
     FileStamp file;
+    /// Of an exchange the file that goes from "folder/to" to "folder/from" at once.
+    std::optional<FileStamp> other = std::nullopt;
+
+    /// How many files the entry moves.
+    [[nodiscard]] int files() const { return other ? 2 : 1; }
+};
+
+/// A row of a planned run, all of which are written before the first is renamed: its file and what it shall
+/// be called. Where there is no folder or no volume it is that of the row before.
+struct JournalWish
+{
+    std::optional<QString> folder;
+    QString from;
+    QString to;
+    FileStamp file;
+    /// Whether anything was known of the file.
+    bool isStamped = false;
+};
+
+struct JournalWishView
+{
+    /// Null where it is not to be told.
+    QStringView folder;
+    QStringView from;
+    QStringView to;
+    QStringView volume;
+    const FileStamp &file;
+};
+
+/// A planned run took its entry of this number back itself: written when that was done.
+struct JournalBack
+{
+    qint64 number = 0;
+    int files = 1;
 };
 
 /// The same, of texts that belong to others: what is written for each file is not copied before.
@@ -61,6 +98,10 @@ struct JournalEntryView
     QStringView from;
     QStringView to;
     const FileStamp &file;
+    /// See JournalEntry; null where there is none.
+    const FileStamp *other = nullptr;
+
+    [[nodiscard]] int files() const { return other ? 2 : 1; }
 };
 
 /// The rename of this number was refused: nothing was moved.
@@ -70,10 +111,11 @@ struct JournalRefusal
     QString reason;
 };
 
-/// The file of the entry that was to be taken back had its old name already.
+/// The file of the entry that was to be taken back had its old name already, or both of an exchange.
 struct JournalKept
 {
     qint64 takesBack = 0;
+    int files = 1;
 };
 
 /// What came of the run by then: from time to time, and as the last line of a run that came to its end.
@@ -84,7 +126,7 @@ struct JournalFigures
     State state = State::Running;
     qint64 renamed = 0;
     qint64 refused = 0;
-    /// How many JournalKept there are.
+    /// The files that had their old names already.
     qint64 kept = 0;
     /// Renamed after the journal could not be written any more.
     qint64 unrecorded = 0;
@@ -98,10 +140,11 @@ struct JournalLeft
 };
 
 using JournalLine = std::variant<std::monostate, JournalHeader, JournalEntry, JournalRefusal, JournalKept,
-                                 JournalFigures, JournalLeft>;
+                                 JournalFigures, JournalLeft, JournalWish, JournalBack>;
 
-/// The newest version of the format that is understood.
-constexpr qint64 journalVersion = 1;
+/// The newest version of the format that is understood. Only journals that tell of planned runs have it:
+/// whoever knows the first alone could not take exchanges back.
+constexpr qint64 journalVersion = 2;
 
 /// With its newline.
 [[nodiscard]] QByteArray toJson(const JournalHeader &header);
@@ -110,12 +153,15 @@ constexpr qint64 journalVersion = 1;
 [[nodiscard]] QByteArray toJson(const JournalKept &kept);
 [[nodiscard]] QByteArray toJson(const JournalFigures &figures);
 [[nodiscard]] QByteArray toJson(const JournalLeft &left);
+[[nodiscard]] QByteArray toJson(const JournalBack &back);
 
 /// As toJson(), into memory that has room for mostBytes(), with the folder as folderJson() gives it; gives
 /// the place behind the line.
 char *writeJson(const JournalEntryView &entry, QByteArrayView folder, char *memory);
 [[nodiscard]] qsizetype mostBytes(const JournalEntryView &entry);
 [[nodiscard]] QByteArray folderJson(QStringView folder);
+char *writeJson(const JournalWishView &wish, char *memory);
+[[nodiscard]] qsizetype mostBytes(const JournalWishView &wish);
 
 /// What a line says, without its newline; monostate for what is no line of a journal, whole or not.
 [[nodiscard]] JournalLine fromJson(QByteArrayView line);

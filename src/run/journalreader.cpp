@@ -74,12 +74,14 @@ std::optional<JournalEntry> BackwardEntries::next()
         if (std::holds_alternative<std::monostate>(read) || std::holds_alternative<JournalLeft>(read))
             continue;
         if (const auto *refusal = std::get_if<JournalRefusal>(&read)) {
-            refused.insert(refusal->number);
+            undone.insert(refusal->number);
+        } else if (const auto *back = std::get_if<JournalBack>(&read)) {
+            undone.insert(back->number);
         } else if (const auto *keptEntry = std::get_if<JournalKept>(&read)) {
             keptNumbers.insert(keptEntry->takesBack);
         } else if (auto *entry = std::get_if<JournalEntry>(&read)) {
             uncertain = std::exchange(isLast, false);
-            if (!refused.remove(entry->number))
+            if (!undone.remove(entry->number))
                 return std::move(*entry);
         }
         isLast = false;
@@ -111,6 +113,10 @@ void readHead(QIODevice &file, JournalSummary &summary)
             summary.folder = std::move(entry->folder);
             return;
         }
+        if (auto *wish = std::get_if<JournalWish>(&line)) {
+            summary.folder = std::move(wish->folder).value_or(QString());
+            return;
+        }
         rest = rest.sliced(newline + 1);
     }
 }
@@ -120,6 +126,7 @@ void readTail(QIODevice &file, JournalSummary &summary)
 {
     BackwardLines lines(file);
     JournalFigures since;
+    QSet<qint64> refused;
     bool isLast = true;
     while (const auto text = lines.next()) {
         JournalLine line = fromJson(*text);
@@ -133,14 +140,16 @@ void readTail(QIODevice &file, JournalSummary &summary)
             summary.isLeft = true;
             continue;
         }
-        if (std::holds_alternative<JournalEntry>(line)) {
-            ++since.renamed;
-            summary.isLastUncertain = summary.isLastUncertain || isLast;
-        } else if (std::holds_alternative<JournalRefusal>(line)) {
-            --since.renamed;
+        if (const auto *entry = std::get_if<JournalEntry>(&line)) {
+            since.renamed += refused.contains(entry->number) ? 0 : entry->files();
+            summary.lastUncertain = isLast ? entry->files() : summary.lastUncertain;
+        } else if (const auto *refusal = std::get_if<JournalRefusal>(&line)) {
+            refused.insert(refusal->number);
             ++since.refused;
-        } else if (std::holds_alternative<JournalKept>(line)) {
-            ++since.kept;
+        } else if (const auto *kept = std::get_if<JournalKept>(&line)) {
+            since.kept += kept->files;
+        } else if (const auto *back = std::get_if<JournalBack>(&line)) {
+            since.renamed -= back->files;
         }
         isLast = false;
     }

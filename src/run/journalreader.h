@@ -41,7 +41,8 @@ class BackwardEntries final
 public:
     explicit BackwardEntries(QIODevice &device);
 
-    /// The entry before; no value at the beginning. Those that were refused are passed over.
+    /// The entry before; no value at the beginning. Those that were refused, or that a planned run took back
+    /// itself, are passed over.
     [[nodiscard]] std::optional<JournalEntry> next();
     /// The numbers of the entries that next() passed on its way which were found to be back already.
     [[nodiscard]] const QSet<qint64> &kept() const { return keptNumbers; }
@@ -51,7 +52,8 @@ public:
 
 private:
     BackwardLines lines;
-    QSet<qint64> refused;
+    /// Refused, or taken back by the run itself.
+    QSet<qint64> undone;
     QSet<qint64> keptNumbers;
     bool uncertain = false;
     bool isLast = true;
@@ -64,10 +66,11 @@ struct JournalSummary
     std::optional<JournalHeader> header;
     /// State Running where the run told no end: it is in hand, or was interrupted.
     JournalFigures figures;
-    /// Of an interrupted run: whether nobody knows if its last rename was done. It is among the figures.
-    bool isLastUncertain = false;
+    /// Of an interrupted run: how many files its last rename moved if it was done, which nobody knows. They
+    /// are among the figures.
+    int lastUncertain = 0;
     bool isLeft = false;
-    /// The folder of the first rename.
+    /// The folder of the first rename, or of the first row of a planned run.
     QString folder;
 };
 

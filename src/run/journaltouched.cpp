@@ -23,6 +23,15 @@ size_t keyOf(const QString &folder, const QString &name)
     return qHashMulti(2, folder, name);
 }
 
+/// Of the files that an entry moves, by their numbers and by what they were called before.
+QList<size_t> keysBefore(const JournalEntry &entry)
+{
+    QList<size_t> keys = {keyOf(entry.folder, entry.from), keyOf(entry.file)};
+    if (entry.other)
+        keys.append({keyOf(entry.folder, entry.to), keyOf(*entry.other)});
+    return keys;
+}
+
 } // namespace
 
 QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo> &newestFirst) const
@@ -39,6 +48,10 @@ QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo
         keys.insert(keyOf(entry->folder, entry->to));
         if (entry->file.number != 0)
             keys.insert(keyOf(entry->file));
+        if (entry->other) {
+            keys.insert(keyOf(entry->folder, entry->from));
+            keys.insert(keyOf(*entry->other));
+        }
     }
     return keys;
 }
@@ -60,9 +73,9 @@ QString JournalFolder::touchedBy(const QString &name) const
         const QSet<qint64> gone = takenBack(later.name, newestFirst);
         BackwardEntries entries(file);
         while (const auto entry = entries.next()) {
-            const bool stands = !gone.contains(entry->number);
-            if (stands &&
-                (files->contains(keyOf(entry->folder, entry->from)) || files->contains(keyOf(entry->file))))
+            const QList<size_t> keys = keysBefore(*entry);
+            if (!gone.contains(entry->number) &&
+                std::any_of(keys.begin(), keys.end(), [&](size_t key) { return files->contains(key); }))
                 return later.name;
         }
     }
@@ -99,11 +112,16 @@ QHash<QString, QString> JournalFolder::touchedRuns(const std::atomic<bool> &stop
             newest = std::min(newest, renamedBy.value(keyOf(entry->folder, entry->to), run));
             if (entry->file.number != 0)
                 newest = std::min(newest, renamedBy.value(keyOf(entry->file), run));
+            if (entry->other)
+                newest = std::min({newest, renamedBy.value(keyOf(entry->folder, entry->from), run),
+                                   renamedBy.value(keyOf(*entry->other), run)});
             if (isOldest)
                 continue;
             keys.append(keyOf(entry->folder, entry->from));
             if (entry->file.number != 0)
                 keys.append(keyOf(entry->file));
+            if (entry->other)
+                keys.append({keyOf(entry->folder, entry->to), keyOf(*entry->other)});
         }
         if (newest < run)
             touched.insert(journal.name, newestFirst.at(newest).name);

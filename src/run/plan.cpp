@@ -135,6 +135,10 @@ Fate Plan::claim(const FolderStep &step, int number)
     if (row.blocker >= 0)
         return Fate::TakenByRow;
     const Entry *place = step.target.find(step.newName);
+    const auto isExact = [](const ForecastFolder &folder) {
+        return folder.traits().spelling == FolderTraits::Spelling::Exact;
+    };
+    row.isExact = isExact(step.source) && isExact(step.target);
     row.isOwnName = place->isThere && place->row == number && &step.source == &step.target && !canChangeCase;
     return Fate::Renamed;
 }

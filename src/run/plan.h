@@ -56,6 +56,12 @@ public:
     /// file, or for none.
     [[nodiscard]] bool needsDetour(int row) const { return rows.at(static_cast<size_t>(row)).isOwnName; }
 
+    [[nodiscard]] int count() const { return static_cast<int>(rows.size()); }
+    /// Whether it is among those of the order.
+    [[nodiscard]] bool isOrdered(int row) const { return rows.at(static_cast<size_t>(row)).isOrdered; }
+    /// Whether its names are spelled exactly as they are, or will be, on the disk.
+    [[nodiscard]] bool isExact(int row) const { return rows.at(static_cast<size_t>(row)).isExact; }
+
 private:
     struct Row
     {
@@ -68,6 +74,7 @@ private:
         int waiter = -1;
         bool isOwnName = false;
         bool isOrdered = false;
+        bool isExact = false;
     };
 
     void noteMovedWays();

@@ -10,6 +10,7 @@ class SystemDisk final : public Disk
 {
 public:
     [[nodiscard]] RenameResult rename(const FilePath &from, const QString &to) override;
+    [[nodiscard]] std::optional<RenameResult> exchange(const FilePath &one, const QString &other) override;
     [[nodiscard]] std::optional<FileIdentity> identity(const QString &path) const override;
 
 private:

@@ -71,6 +71,16 @@ UndoRun::Refusal refusalOf(const JournalInfo *journal)
     return isOurs ? UndoRun::Refusal::NothingToDo : UndoRun::Refusal::NotOurs;
 }
 
+/// Whether there may be exchanges in it: an undo of a planned run, a redo of that.
+qint64 versionFor(const JournalInfo &journal, const QList<JournalInfo> &journals)
+{
+    const JournalInfo *root = &journal;
+    while (root && !root->isRun())
+        root = find(journals, root->takesBack);
+    // Of what is gone it is not known.
+    return !root || root->planned > 0 ? journalVersion : 1;
+}
+
 } // namespace
 
 UndoRun::Begun UndoRun::begin(JournalFolder &folder, const QString &name, Disk &disk, const QString &program)
@@ -94,7 +104,13 @@ UndoRun::Begun UndoRun::begin(JournalFolder &folder, const QString &name, Disk &
     run->time = journal->time;
     run->steps = journal->standing;
     run->entries.emplace(run->file);
-    run->journal = folder.begin(program, run->steps, name, &run->createError);
+    run->journal = folder.begin({.version = versionFor(*journal, journals),
+                                 .time = {},
+                                 .program = program,
+                                 .machine = {},
+                                 .rows = run->steps,
+                                 .takesBack = name},
+                                &run->createError);
     run->ended = false;
     return {.run = std::move(run)};
 }
@@ -114,27 +130,39 @@ UndoRun::~UndoRun()
 
 std::optional<UndoStep> UndoRun::next()
 {
+    if (const auto step = std::exchange(pending, std::nullopt))
+        return step;
     while (const auto entry = entries->next()) {
         if (!gone.contains(entry->number))
-            return takeBack(*entry);
+            return entry->other ? takeExchangeBack(*entry) : takeBack(*entry);
     }
     return std::nullopt;
 }
 
-UndoStep UndoRun::takeBack(const JournalEntry &entry)
+namespace {
+
+UndoStep stepOf(const JournalEntry &entry, const QString &from, const QString &to)
 {
     UndoStep step;
-    step.from = entry.folder + u'/' + entry.to;
-    step.to = entry.folder + u'/' + entry.from;
+    step.from = entry.folder + u'/' + from;
+    step.to = entry.folder + u'/' + to;
     step.nameAt = entry.folder.size() + 1;
+    return step;
+}
+
+} // namespace
+
+UndoStep UndoRun::takeBack(const JournalEntry &entry)
+{
+    UndoStep step = stepOf(entry, entry.to, entry.from);
     if (stamps.isAt(step.from, entry.file, time)) {
         step.result = move(entry, step);
     } else if (stamps.isAt(step.to, entry.file, time)) {
         step.result = UndoStep::Result::WasBack;
         if (journal)
-            journal->kept(entry.number);
+            journal->kept({.takesBack = entry.number});
     } else {
-        step.result = disk.identity(step.from) ? UndoStep::Result::OtherFile : UndoStep::Result::Missing;
+        step.result = resultOfLost(step);
     }
     return step;
 }
@@ -157,6 +185,63 @@ UndoStep::Result UndoRun::move(const JournalEntry &entry, UndoStep &step)
     if (result == RenameResult::TargetExists)
         return UndoStep::Result::Taken;
     return result == RenameResult::SourceMissing ? UndoStep::Result::Missing : UndoStep::Result::Refused;
+}
+
+/// Both files go back at once. Where only one of them is left, and the other's name is free, it goes alone.
+UndoStep UndoRun::takeExchangeBack(const JournalEntry &entry)
+{
+    const JournalEntry one{.number = entry.number,
+                           .folder = entry.folder,
+                           .from = entry.from,
+                           .to = entry.to,
+                           .file = entry.file};
+    const JournalEntry two{.number = entry.number,
+                           .folder = entry.folder,
+                           .from = entry.to,
+                           .to = entry.from,
+                           .file = *entry.other};
+    UndoStep step = stepOf(entry, one.to, one.from);
+    UndoStep other = stepOf(entry, two.to, two.from);
+    const bool isThere = stamps.isAt(step.from, one.file, time);
+    const bool isOtherThere = stamps.isAt(other.from, two.file, time);
+    if (isThere && isOtherThere) {
+        step.result = exchange(entry, step);
+        other.result = step.result;
+        other.why = step.why;
+    } else if (stamps.isAt(step.to, one.file, time) && stamps.isAt(other.to, two.file, time)) {
+        step.result = other.result = UndoStep::Result::WasBack;
+        if (journal)
+            journal->kept({.takesBack = entry.number, .files = 2});
+    } else {
+        step.result = isThere ? move(one, step) : resultOfLost(step);
+        other.result = isOtherThere ? move(two, other) : resultOfLost(other);
+    }
+    pending = other;
+    return step;
+}
+
+UndoStep::Result UndoRun::resultOfLost(const UndoStep &step) const
+{
+    return disk.identity(step.from) ? UndoStep::Result::OtherFile : UndoStep::Result::Missing;
+}
+
+UndoStep::Result UndoRun::exchange(const JournalEntry &entry, UndoStep &step)
+{
+    if (journal)
+        journal->renaming({.takesBack = entry.number,
+                           .folder = entry.folder,
+                           .from = entry.to,
+                           .to = entry.from,
+                           .file = entry.file,
+                           .other = &*entry.other});
+    const FilePath source{.path = step.from, .nameAt = step.nameAt};
+    const auto result = disk.exchange(source, step.to);
+    if (result == RenameResult::Done)
+        return UndoStep::Result::TakenBack;
+    step.why = fateOf(result.value_or(RenameResult::Other));
+    if (journal)
+        journal->refused(idOf(step.why));
+    return UndoStep::Result::Refused;
 }
 
 void UndoRun::end(bool cancelled)

@@ -86,7 +86,8 @@ public:
 
     /// How many steps there are.
     [[nodiscard]] qint64 total() const { return steps; }
-    /// Takes the next rename back; no value after the last.
+    /// Takes the next rename back; no value after the last. An exchange is one call and gives two steps. A
+    /// file that a planned run moved more than once has as many steps.
     [[nodiscard]] std::optional<UndoStep> next();
     /// Ends the undo's own journal, lets go of the other, and removes what journals are too much.
     void end(bool cancelled);
@@ -98,6 +99,9 @@ private:
     UndoRun(JournalFolder &folder, const QString &name, Disk &on);
     [[nodiscard]] UndoStep takeBack(const JournalEntry &entry);
     [[nodiscard]] UndoStep::Result move(const JournalEntry &entry, UndoStep &step);
+    [[nodiscard]] UndoStep::Result resultOfLost(const UndoStep &step) const;
+    [[nodiscard]] UndoStep takeExchangeBack(const JournalEntry &entry);
+    [[nodiscard]] UndoStep::Result exchange(const JournalEntry &entry, UndoStep &step);
 
     JournalFolder &journals;
     Disk &disk;
@@ -108,6 +112,8 @@ private:
     QSet<qint64> gone;
     QDateTime time;
     qint64 steps = 0;
+    /// Of an exchange that was taken back, what is to be told of the other file.
+    std::optional<UndoStep> pending;
     /// The undo's own.
     std::unique_ptr<Journal> journal;
     QString createError;

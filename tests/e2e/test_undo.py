@@ -12,6 +12,8 @@ from harness.waiting import until, until_equal
 from harness.xwindows import own_windows, wait_for_menu
 
 MENU = ["Undo", "Redo", "Runs…"]
+# Below them stand a separator and an entry more.
+MENU_ROWS = 4.3
 UNDO_TIP = "Undo the last run"
 FILES = 3000
 
@@ -40,7 +42,7 @@ class Undo(Case):
         menu = wait_for_menu(self.desktop)
         self.screenshot(f"menu-{MENU.index(entry)}")
         window.hands.click_at(menu.x + menu.width // 2,
-                              menu.y + menu.height * (2 * MENU.index(entry) + 1) // (2 * len(MENU)))
+                              menu.y + int(menu.height * (MENU.index(entry) + 0.5) / MENU_ROWS))
         until(lambda: not own_windows(self.desktop), "the menu to close")
 
     def prepare(self, window):

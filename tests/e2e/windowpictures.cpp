@@ -12,6 +12,7 @@
 #include "dialogs/dialogstart.h"
 #include "mainwindow/commandids.h"
 #include "mainwindow/mainwindow.h"
+#include "mainwindow/plannedtexts.h"
 #include "mainwindow/progressdialog.h"
 #include "rules/rulereplace.h"
 #include "support/httpserver.h"
@@ -19,6 +20,7 @@
 #include "support/toplevel.h"
 #include "update/versioncheck.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -223,6 +225,29 @@ void tidyLog(MainWindow *window)
     log->setItem(0, 1, new QTableWidgetItem(u"A line of the log"_s));
 }
 
+/// The same rows when all or none are renamed: nothing is.
+void showPlanned(MainWindow *window)
+{
+    auto *entry = child<QAction>(window, "actionAllOrNothing");
+    entry->trigger();
+    showMenu(u"menu-runs"_s, [window] { child<QAbstractButton>(window, "buttonRuns")->click(); });
+    child<QPushButton>(window, "buttonPreview")->click();
+    const auto *label = child<QLabel>(window, "labelForecast");
+    const QString refused = refusedCountsText(4, 2);
+    if (!QTest::qWaitFor([&] { return label->text() == refused; }, 20000))
+        fail("the preview tells nothing of a planned run: "_L1 + label->text());
+    tidyLog(window);
+    show(window, u"preview-planned"_s);
+    expectWholeText(label);
+    showBox(
+        u"report-refused"_s, [window] { window->on_buttonRename_clicked(); },
+        [](QWidget *box) {
+            const auto buttons = box->findChildren<QPushButton *>();
+            std::for_each(buttons.begin(), buttons.end(), &expectWholeText);
+        });
+    entry->trigger();
+}
+
 /// What the window says of rows that are not renamed: one after another, one by a file, one that keeps its
 /// name.
 void showForecast(MainWindow *window)
@@ -258,6 +283,7 @@ void showForecast(MainWindow *window)
     showBox(
         u"report-with-details"_s, [window] { window->on_buttonRename_clicked(); },
         [](QWidget *box) { showDetails(qobject_cast<QMessageBox *>(box)); });
+    showPlanned(window);
     preview->setChecked(false);
     child<QAbstractButton>(window, "buttonFileListClear")->click();
     window->onClickedRuleList(ClearRules);

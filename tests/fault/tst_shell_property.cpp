@@ -219,7 +219,7 @@ private:
         if (ours.paths.isEmpty())
             return;
         const auto before = contentOf(ours.tree.path());
-        const auto foretold = shell.run(optionsOf(ours, {u"preview"_s, u"--json"_s}));
+        const auto foretold = shell.run(optionsOf(ours, {u"preview"_s, u"--classic"_s, u"--json"_s}));
         QVERIFY2(foretold.code == ExitCode::Done || foretold.code == ExitCode::Conflicts,
                  foretold.trouble.constData());
         QCOMPARE(foretold.objects().size(), window->files()->count());

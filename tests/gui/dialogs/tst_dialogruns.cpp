@@ -4,6 +4,7 @@
 #include "dialogs/dialogruns.h"
 #include "dialogs/runfilesmodel.h"
 #include "dialogs/runmodel.h"
+#include "run/plannedrun.h"
 #include "support/modalanswer.h"
 
 #include "support/journalfiles.h"
@@ -57,6 +58,23 @@ private:
         const QLocale system = QLocale::system();
         return system.toString(files->info(run).time.toLocalTime(),
                                system.timeFormat(QLocale::ShortFormat).remove(u":ss"_s));
+    }
+    /// Of three rows one is renamed; gives the run's name.
+    [[nodiscard]] QString interruptPlannedRun() const
+    {
+        const SystemDiskView view;
+        Plan plan(view);
+        for (const QString &name : {u"f001"_s, u"f002"_s, u"f003"_s})
+            plan.add(FilePath::of(files->tree.path(name)), u"h"_s + name.last(1));
+        plan.make();
+        QString error;
+        const auto journal = files->journals.beginPlanned(u"1.2.3"_s, 3, &error);
+        const QString name = QFileInfo(journal->path()).fileName();
+        PlannedRun run(files->disk, plan, journal.get());
+        while (run.next() && run.renamed() < 1) {
+        }
+        run.end();
+        return name;
     }
     /// The texts of the files' table of the selected run.
     [[nodiscard]] QStringList shownFiles() const
@@ -164,7 +182,7 @@ private slots:
         files->write(u"20200101T000000000Z-00000000.jsonl"_s,
                      QByteArray(bytes).replace(thisMachine().toLatin1(), "0000000000000000"));
         files->write(u"20190101T000000000Z-00000000.jsonl"_s,
-                     bytes.replace("\"version\":1", "\"version\":2"));
+                     bytes.replace("\"version\":1", "\"version\":9"));
         files->write(u"20180101T000000000Z-00000000.jsonl"_s, "garbage\n");
         open();
         QCOMPARE(states(), QStringList({u"complete"_s, u"of another machine"_s, u"of a newer version"_s,
@@ -175,6 +193,49 @@ private slots:
             QVERIFY(button("buttonForget")->isEnabled());
             QCOMPARE(button("buttonShowFiles")->isEnabled(), row == 1);
         }
+    }
+
+    void choiceIsThereForAPlannedRunThatWasInterrupted()
+    {
+        files->tree.addFiles(u"f%1"_s, 5);
+        files->run({{u"f000"_s, u"g"_s}});
+        open();
+        QVERIFY(button("buttonFinish")->isHidden());
+        QVERIFY(button("buttonLeave")->isHidden());
+        dialog.reset();
+
+        const QString name = interruptPlannedRun();
+        open();
+        QTRY_COMPARE(states(), QStringList({u"interrupted"_s, u"complete"_s}));
+        QCOMPARE(button("buttonTakeBack")->text(), u"Put back"_s);
+        QCOMPARE(button("buttonFinish")->text(), u"Finish"_s);
+        QCOMPARE(button("buttonLeave")->text(), u"Leave"_s);
+        for (const char *choice : {"buttonFinish", "buttonTakeBack", "buttonLeave"}) {
+            QVERIFY(button(choice)->isVisible());
+            QVERIFY(button(choice)->isEnabled());
+            QVERIFY(!button(choice)->autoDefault());
+        }
+        QVERIFY(note().startsWith("This run was to rename all files or none"_L1));
+        select(1);
+        QCOMPARE(button("buttonTakeBack")->text(), u"Take back"_s);
+        QVERIFY(button("buttonTakeBack")->isEnabled());
+        QVERIFY(!button("buttonFinish")->isEnabled());
+        QVERIFY(!button("buttonLeave")->isEnabled());
+        QCOMPARE(note(), QString());
+
+        select(0);
+        QStringList finished;
+        dialog->finish = [&finished](const QString &run) {
+            finished.append(run);
+        };
+        button("buttonFinish")->click();
+        QCOMPARE(finished, QStringList(name));
+        button("buttonLeave")->click();
+        QVERIFY(!files->info(name).isOpen);
+        QVERIFY(button("buttonFinish")->isHidden());
+        QCOMPARE(button("buttonTakeBack")->text(), u"Take back"_s);
+        QVERIFY(button("buttonTakeBack")->isEnabled());
+        QCOMPARE(files->tree.names().filter(u"f"_s), QStringList({u"f002"_s, u"f003"_s, u"f004"_s}));
     }
 
     void laterRunHasToBeTakenBackBefore()

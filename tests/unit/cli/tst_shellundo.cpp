@@ -27,6 +27,22 @@ void renameInTheWindow(const QString &data, const QString &path, const QString &
     journal->end(false);
 }
 
+/// Renames 000 to 002 into the names behind them, interrupted when one has its new name; the run's name.
+QString interruptShift(ShellTest &shell, const TestFolder &folder)
+{
+    shell.isInterrupted = [&folder] {
+        return folder.names().contains(u"003"_s);
+    };
+    const QStringList words{u"apply"_s, u"--yes"_s, u"--trim"_s, u"0,3"_s, u"--number"_s, u"1,2,0"_s};
+    const auto ended = shell.run(words + QStringList{u"000"_s, u"001"_s, u"002"_s});
+    shell.isInterrupted = [] {
+        return false;
+    };
+    if (ended.code != ExitCode::Interrupted)
+        qFatal("not interrupted: %s%s", ended.out.constData(), ended.trouble.constData());
+    return shell.run({u"history"_s, u"--json"_s}).objects().value(0).value("run"_L1).toString();
+}
+
 } // namespace
 
 /// Taking runs back from a shell, and the list of them.
@@ -44,6 +60,8 @@ private slots:
     void withoutATerminalItMustBeTold();
     void interruptionStopsBetweenTwoFiles();
     void historyTellsOfEveryRun();
+    void unfinishedRunHasThreeWaysOn();
+    void unfinishedRunThatCannotBeFinishedIsLeftAlone();
 };
 
 void TestShellUndo::runsOfTheWindowAreTakenBack()
@@ -187,6 +205,53 @@ void TestShellUndo::historyTellsOfEveryRun()
     QCOMPARE(lines.size(), 4);
     QVERIFY(lines.at(0).contains("took back 1 file, complete, "));
     QVERIFY(lines.at(1).contains("renamed 1 file, taken back, "));
+}
+
+void TestShellUndo::unfinishedRunHasThreeWaysOn()
+{
+    const QStringList names{u"000"_s, u"001"_s, u"002"_s};
+    const QStringList halfway{u"000"_s, u"001"_s, u"003"_s};
+    for (const QString &way : {u"--finish"_s, u"--back"_s, u"--leave"_s}) {
+        const TestFolder folder;
+        ShellTest shell;
+        folder.addFiles(u"%1"_s, 3);
+        const QString run = interruptShift(shell, folder);
+        QCOMPARE(folder.names(), halfway);
+        // Whoever works in the shell is told, and nothing happens by itself.
+        const auto told = shell.run({u"history"_s});
+        QVERIFY2(told.trouble.contains(u"undo %1 --finish"_s.arg(run).toUtf8()), told.trouble.constData());
+        QCOMPARE(folder.names(), halfway);
+        QCOMPARE(shell.run({u"undo"_s, run, way, way == u"--back"_s ? u"--leave"_s : u"--back"_s}).code,
+                 ExitCode::Usage);
+        const auto ended = shell.run({u"undo"_s, run, way, u"--yes"_s});
+        QVERIFY2(ended.code == ExitCode::Done, ended.trouble.constData());
+        if (way == "--finish"_L1) {
+            QCOMPARE(folder.names(), (QStringList{u"001"_s, u"002"_s, u"003"_s}));
+            QVERIFY(ended.out.contains("/001 → "));
+        } else {
+            QCOMPARE(folder.names(), way == "--back"_L1 ? names : halfway);
+        }
+        QCOMPARE(shell.run({u"history"_s}).trouble, QByteArray());
+        QCOMPARE(shell.run({u"undo"_s, way, u"--yes"_s}).code, ExitCode::NothingToDo);
+        // Finished or left, the whole run can still be taken back.
+        QCOMPARE(shell.run({u"undo"_s, u"--yes"_s}).code,
+                 way == "--back"_L1 ? ExitCode::NothingToDo : ExitCode::Done);
+        QCOMPARE(folder.names(), names);
+    }
+}
+
+void TestShellUndo::unfinishedRunThatCannotBeFinishedIsLeftAlone()
+{
+    const TestFolder folder;
+    ShellTest shell;
+    folder.addFiles(u"%1"_s, 3);
+    const QString run = interruptShift(shell, folder);
+    QFile::remove(folder.path(u"001"_s));
+    const auto ended = shell.run({u"undo"_s, run, u"--finish"_s, u"--yes"_s});
+    QCOMPARE(ended.code, ExitCode::Conflicts);
+    QVERIFY2(ended.trouble.contains("/002: the file is not there\n"), ended.trouble.constData());
+    QCOMPARE(folder.names(), (QStringList{u"000"_s, u"003"_s}));
+    QVERIFY(shell.run({u"history"_s}).trouble.contains("--finish"));
 }
 
 QTEST_GUILESS_MAIN(TestShellUndo)

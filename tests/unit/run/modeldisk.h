@@ -33,6 +33,10 @@ public:
         int timesAsked = 0;
     };
 
+    /// Whether two files can be given each other's name at once.
+    bool exchanges = false;
+    /// Whether a file can be known again by its number; otherwise all look alike.
+    bool keepsNumbers = true;
     /// By their full paths, which have a drive on Windows.
     mutable QMap<QString, Folder> folders;
 
@@ -60,8 +64,9 @@ public:
     {
         Folder *source = folderOf(from.path);
         Folder *target = folderOf(to);
-        const QString name = to.sliced(to.lastIndexOf(u'/') + 1);
-        const QString old = source ? spelled(*source, from.name()) : QString();
+        const QString name = lastPart(to);
+        const QString oldName = lastPart(from.path);
+        const QString old = source ? spelled(*source, oldName) : QString();
         if (old.isNull())
             return RenameResult::SourceMissing;
         if (!target)
@@ -69,7 +74,7 @@ public:
         if (name.toUtf8().size() > target->traits.longestName)
             return RenameResult::TooLong;
         const QString there = spelled(*target, name);
-        const bool isItself = target == source && there == old && from.name() != name;
+        const bool isItself = target == source && there == old && oldName != name;
         if (!there.isNull() && (!isItself || target->numbersSpellings))
             return RenameResult::TargetExists;
         if (!source->traits.writable || !target->traits.writable)
@@ -77,6 +82,24 @@ public:
         const Node node = source->nodes.take(old);
         target->nodes.insert(name, node);
         return RenameResult::Done;
+    }
+
+    std::optional<RenameResult> exchange(const FilePath &one, const QString &other) override
+    {
+        if (!exchanges)
+            return std::nullopt;
+        Folder *first = folderOf(one.path);
+        Folder *second = folderOf(other);
+        const QString name = lastPart(one.path);
+        const QString otherName = lastPart(other);
+        if (!first || !second || !first->nodes.contains(name) || !second->nodes.contains(otherName))
+            return RenameResult::SourceMissing;
+        std::swap(first->nodes[name], second->nodes[otherName]);
+        return RenameResult::Done;
+    }
+    Volume volume(const QString & /*path*/) const override
+    {
+        return {.id = QStringLiteral("model"), .keepsNumbers = keepsNumbers};
     }
 
     std::optional<FileIdentity> identity(const QString &path) const override
@@ -132,6 +155,7 @@ private:
         QMap<QString, Node>::const_iterator at = folder.nodes.constBegin();
     };
 
+    static QString lastPart(const QString &path) { return path.sliced(path.lastIndexOf(u'/') + 1); }
     static Folder missingFolder()
     {
         Folder missing;

@@ -142,24 +142,24 @@ private slots:
     void newerVersionSaysOnlyThat()
     {
         const QByteArray bytes =
-            R"({"kind":"run","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","new":"x"})"
+            R"({"kind":"run","format":"orvanto-journal","version":3,"time":"2026-08-01T13:57:41.123Z","new":"x"})"
             "\n" +
             entryLine(0);
         const JournalSummary summary = summaryIn(bytes);
         QVERIFY(summary.header);
-        QCOMPARE(summary.header->version, 2);
+        QCOMPARE(summary.header->version, 3);
         QCOMPARE(summary.figures.renamed, 0);
     }
 
     void lastRenameOfAnInterruptedRunIsUncertain()
     {
         const QByteArray begin = headerLine() + entryLine(0) + entryLine(1);
-        QVERIFY(summaryIn(begin).isLastUncertain);
-        QVERIFY(summaryIn(begin + "lost\n").isLastUncertain);
-        QVERIFY(summaryIn(begin + toJson(JournalLeft())).isLastUncertain);
-        QVERIFY(!summaryIn(begin + toJson(JournalRefusal{1, {}})).isLastUncertain);
-        QVERIFY(!summaryIn(begin + toJson(JournalFigures())).isLastUncertain);
-        QVERIFY(!summaryIn(headerLine()).isLastUncertain);
+        QVERIFY(summaryIn(begin).lastUncertain);
+        QVERIFY(summaryIn(begin + "lost\n").lastUncertain);
+        QVERIFY(summaryIn(begin + toJson(JournalLeft())).lastUncertain);
+        QVERIFY(!summaryIn(begin + toJson(JournalRefusal{1, {}})).lastUncertain);
+        QVERIFY(!summaryIn(begin + toJson(JournalFigures())).lastUncertain);
+        QVERIFY(!summaryIn(headerLine()).lastUncertain);
         QVERIFY(summaryIn(begin + toJson(JournalLeft())).isLeft);
         QBuffer buffer;
         buffer.setData(begin + toJson(JournalLeft()));

@@ -294,7 +294,7 @@ private slots:
         files->write(run, QByteArray(bytes).replace(thisMachine().toLatin1(), "0000000000000000"));
         QCOMPARE(files->info(run).state, JournalInfo::State::OtherMachine);
         QCOMPARE(files->undo(run), QStringList{refusal(UndoRun::Refusal::NotOurs)});
-        files->write(run, QByteArray(bytes).replace("\"version\":1", "\"version\":2"));
+        files->write(run, QByteArray(bytes).replace("\"version\":1", "\"version\":3"));
         QCOMPARE(files->info(run).state, JournalInfo::State::Newer);
         QCOMPARE(files->undo(run), QStringList{refusal(UndoRun::Refusal::NotOurs)});
         files->write(run, "garbage\n");

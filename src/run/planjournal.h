@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 Kavrondel
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "run/journalline.h"
+
+#include <QFile>
+#include <QSet>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+/// What the journal of a planned run tells of its rows.
+struct PlanJournal
+{
+    struct Row
+    {
+        FileStamp file;
+        QString folder;
+        QString to;
+        /// What the file was called, the last one last.
+        QStringList places;
+    };
+
+    std::vector<Row> rows;
+    /// Behind the last line.
+    qint64 size = 0;
+    qint64 nextEntry = 0;
+    /// How many files the last entry moves, and the row of the first of them where that may not have been
+    /// done.
+    int filesOfLast = 1;
+    std::optional<size_t> uncertainRow;
+
+    /// Without the entries that were taken back. Nothing where rows are lost, or there are more or less than
+    /// so many.
+    [[nodiscard]] static std::optional<PlanJournal> read(QFile &file, qint64 rowCount,
+                                                         const QSet<qint64> &takenBack);
+};
