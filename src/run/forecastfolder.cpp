@@ -136,17 +136,17 @@ void ForecastFolder::remove(Entry *entry, QStringView name)
         --alike[foldedName(name, Spelling::AnyCase)];
 }
 
-int ForecastFolder::claim(QStringView name, int row)
+ForecastFolder::Entry &ForecastFolder::claim(QStringView name, int row)
 {
     Entry *entry = find(name);
     if (!entry)
         entry = &*names.insert(store.keep(keyOf(name)), {.kind = {}});
     if (entry->taker >= 0)
-        return entry->taker;
+        return *entry;
     entry->taker = row;
     if (known.spelling == Spelling::Unknown)
         ++alike[foldedName(name, Spelling::AnyCase)];
-    return -1;
+    return *entry;
 }
 
 void ForecastFolder::doubt(Entry *entry, QStringView name)

@@ -45,8 +45,9 @@ public:
     /// Puts what is moved here under its new name, in the place of what was there.
     void insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind);
     void remove(Entry *entry, QStringView name);
-    /// The row shall have the name: the row that shall have it already, which keeps it; otherwise -1.
-    int claim(QStringView name, int row);
+    /// The row shall have the name, if none shall have it already: the entry's taker tells. Good until the
+    /// next name is claimed.
+    Entry &claim(QStringView name, int row);
     /// Whether something is there by the name shall be unknown; the entry is that of the name, if there is
     /// one.
     void doubt(Entry *entry, QStringView name);

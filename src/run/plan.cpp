@@ -131,15 +131,20 @@ Fate Plan::claim(const FolderStep &step, int number)
         QDir::cleanPath(row.file.sibling(row.newName)).startsWith(row.file.path + u'/'))
         return Fate::NotAllowed;
     const bool canChangeCase = step.isChangeOfCase();
-    row.blocker = step.target.claim(step.newName, number);
-    if (row.blocker >= 0)
+    const Entry &place = step.target.claim(step.newName, number);
+    if (place.taker != number) {
+        row.blocker = place.taker;
         return Fate::TakenByRow;
-    const Entry *place = step.target.find(step.newName);
+    }
+    if (place.isThere && place.row != number) {
+        row.isHeld = true;
+        row.blocker = place.row;
+    }
     const auto isExact = [](const ForecastFolder &folder) {
         return folder.traits().spelling == FolderTraits::Spelling::Exact;
     };
     row.isExact = isExact(step.source) && isExact(step.target);
-    row.isOwnName = place->isThere && place->row == number && &step.source == &step.target && !canChangeCase;
+    row.isOwnName = place.isThere && place.row == number && &step.source == &step.target && !canChangeCase;
     return Fate::Renamed;
 }
 
@@ -149,16 +154,12 @@ void Plan::findBlocker(int number)
     Row &row = rows[static_cast<size_t>(number)];
     if (row.fate != Fate::Renamed)
         return;
-    const qsizetype lastPartAt = NewName(row.newName).lastPartAt;
-    const Entry *place = targetOf(row).find(QStringView(row.newName).sliced(lastPartAt));
-    if (!place->isThere || place->row == number)
+    if (!row.isHeld)
         return;
-    if (place->row < 0) {
+    if (row.blocker < 0)
         row.fate = Fate::Taken;
-        return;
-    }
-    row.blocker = place->row;
-    rows[static_cast<size_t>(place->row)].waiter = number;
+    else
+        rows[static_cast<size_t>(row.blocker)].waiter = number;
 }
 
 /// Whoever waits for the name of a row that stays does so, too.

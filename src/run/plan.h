@@ -75,6 +75,8 @@ private:
         bool isOwnName = false;
         bool isOrdered = false;
         bool isExact = false;
+        /// Whether something has the new name now; of no row, where there is no blocker.
+        bool isHeld = false;
     };
 
     void noteMovedWays();
