@@ -78,7 +78,7 @@ void FinishRun::makePlan(const QDateTime &begun)
     }
 }
 
-/// The last thing that the run told, or that an undo did, may not have been done.
+/// The last thing that the run told may not have been done, and the last that an undo told may have been.
 std::optional<QString> FinishRun::placeOf(const PlanJournal::Row &row, const QSet<QString> &places,
                                           FileStamps &stamps, const QDateTime &begun)
 {
@@ -92,7 +92,7 @@ std::optional<QString> FinishRun::placeOf(const PlanJournal::Row &row, const QSe
     // Without numbers another row's file may look the same.
     if ((row.file.number == 0 && places.contains(before)) || !stamps.isAt(before, row.file, begun))
         return std::nullopt;
-    isLastUndone = isLastUndone || (told.uncertainRow && &row == &told.rows[*told.uncertainRow]);
+    undone.insert(row.entry, row.filesOfEntry);
     return before;
 }
 
@@ -127,12 +127,12 @@ bool FinishRun::resume()
 {
     if (!lastError.isEmpty())
         return false;
-    if (!journal->resume(told.size, told.nextEntry, told.filesOfLast, figures)) {
+    if (!journal->resume(told.size, told.nextEntry, figures)) {
         lastError = journal->error();
         return false;
     }
-    if (isLastUndone)
-        journal->refused(idOf(Fate::Unknown));
+    for (const auto &[entry, files] : undone.asKeyValueRange())
+        journal->takenBack({.number = entry, .files = files});
     planned = std::make_unique<PlannedRun>(disk, plan, journal.get());
     return true;
 }

@@ -7,6 +7,8 @@
 #include "run/plannedrun.h"
 #include "run/undorun.h"
 
+#include <QMap>
+
 /// Finishes a planned run that was interrupted, from what its journal and the disk tell: the rows that it
 /// wished for are planned anew, all or none of them. The moves go on in the run's own journal, so that an
 /// undo takes the whole run back.
@@ -70,8 +72,8 @@ private:
     Disk &disk;
     PlanJournal told;
     JournalFigures figures;
-    /// Whether the run was killed between the journal's last line and what that tells.
-    bool isLastUndone = false;
+    /// The entries that are told as standing, and are not, with how many files they move.
+    QMap<qint64, int> undone;
     /// The rows whose files are not where the journal says.
     QHash<int, Fate> lost;
     Plan plan;

@@ -106,7 +106,7 @@ std::unique_ptr<Journal> Journal::reopen(const QString &path, QString *error)
     return journal;
 }
 
-bool Journal::resume(qint64 size, qint64 nextEntry, int filesOfLast, const JournalFigures &figures)
+bool Journal::resume(qint64 size, qint64 nextEntry, const JournalFigures &figures)
 {
     if (!file->reserved->cut(size)) {
         lastError = file->reserved->error();
@@ -114,8 +114,6 @@ bool Journal::resume(qint64 size, qint64 nextEntry, int filesOfLast, const Journ
     }
     endOffset = size;
     entries = nextEntry;
-    recorded = true;
-    lastFiles = filesOfLast;
     soFar = figures;
     foldersBefore = std::max<qint64>(figures.folders - 1, 0);
     resumed = true;

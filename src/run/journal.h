@@ -26,9 +26,8 @@ public:
     ~Journal();
     Q_DISABLE_COPY_MOVE(Journal)
 
-    /// The journal's lines end there; the next entry has that number, and the last one moved so many files.
-    /// False when that cannot be.
-    [[nodiscard]] bool resume(qint64 size, qint64 nextEntry, int filesOfLast, const JournalFigures &figures);
+    /// The journal's lines end there, and the next entry has that number. False when that cannot be.
+    [[nodiscard]] bool resume(qint64 size, qint64 nextEntry, const JournalFigures &figures);
     [[nodiscard]] bool isResumed() const { return resumed; }
 
     /// A row of a planned run, before the first rename. Without the folder and the volume, which are told

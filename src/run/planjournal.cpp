@@ -7,6 +7,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace {
 
 QString pathOf(const QString &folder, const QString &name)
@@ -25,8 +27,6 @@ struct Lines
 {
     std::vector<JournalEntry> entries;
     std::vector<JournalWish> wishes;
-    /// Whether the last entry of all may not have been done.
-    bool isLastUncertain = false;
 };
 
 Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
@@ -34,11 +34,8 @@ Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
     Lines found;
     QSet<qint64> undone = takenBack;
     BackwardLines lines(file);
-    bool isLast = true;
     while (const auto line = lines.next()) {
         JournalLine read = fromJson(*line);
-        if (std::holds_alternative<std::monostate>(read) || std::holds_alternative<JournalLeft>(read))
-            continue;
         if (auto *wish = std::get_if<JournalWish>(&read)) {
             found.wishes.push_back(std::move(*wish));
         } else if (const auto *refusal = std::get_if<JournalRefusal>(&read)) {
@@ -46,15 +43,10 @@ Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
         } else if (const auto *back = std::get_if<JournalBack>(&read)) {
             undone.insert(back->number);
         } else if (auto *entry = std::get_if<JournalEntry>(&read)) {
-            if (entry->number >= told.nextEntry) {
-                told.nextEntry = entry->number + 1;
-                told.filesOfLast = entry->files();
-                found.isLastUncertain = isLast && !undone.contains(entry->number);
-            }
+            told.nextEntry = std::max(told.nextEntry, entry->number + 1);
             if (!undone.contains(entry->number))
                 found.entries.push_back(std::move(*entry));
         }
-        isLast = false;
     }
     return found;
 }
@@ -91,17 +83,15 @@ public:
         }
     }
 
-    /// The row whose file goes to where the entry says.
-    std::optional<size_t> follow(const JournalEntry &entry)
+    void follow(const JournalEntry &entry)
     {
         const QString from = pathOf(entry.folder, entry.from);
         const QString to = pathOf(entry.folder, entry.to);
         const auto one = rowOf(from, entry.file);
         const auto other = entry.other ? rowOf(to, *entry.other) : std::nullopt;
         byPath.remove(from);
-        place(one, to);
-        place(other, from);
-        return one;
+        place(one, to, entry);
+        place(other, from, entry);
     }
 
 private:
@@ -113,12 +103,14 @@ private:
         const auto row = file.number == 0 ? byFile.constEnd() : byFile.constFind(numberOf(file));
         return row == byFile.constEnd() ? std::nullopt : std::optional(*row);
     }
-    void place(std::optional<size_t> row, const QString &path)
+    void place(std::optional<size_t> row, const QString &path, const JournalEntry &entry)
     {
         if (!row)
             return;
         byPath.insert(path, *row);
         rows[*row].places.append(path);
+        rows[*row].entry = entry.number;
+        rows[*row].filesOfEntry = entry.files();
     }
 
     std::vector<PlanJournal::Row> &rows;
@@ -137,10 +129,7 @@ std::optional<PlanJournal> PlanJournal::read(QFile &file, qint64 rowCount, const
         return std::nullopt;
     fillRows(std::move(lines.wishes), told.rows);
     Trace trace(told.rows);
-    std::optional<size_t> lastRow;
     for (auto entry = lines.entries.crbegin(); entry != lines.entries.crend(); ++entry)
-        lastRow = trace.follow(*entry);
-    if (lines.isLastUncertain)
-        told.uncertainRow = lastRow;
+        trace.follow(*entry);
     return told;
 }

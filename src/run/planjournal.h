@@ -22,16 +22,15 @@ struct PlanJournal
         QString to;
         /// What the file was called, the last one last.
         QStringList places;
+        /// The entry that moved it last, and how many files that moves.
+        qint64 entry = -1;
+        int filesOfEntry = 1;
     };
 
     std::vector<Row> rows;
     /// Behind the last line.
     qint64 size = 0;
     qint64 nextEntry = 0;
-    /// How many files the last entry moves, and the row of the first of them where that may not have been
-    /// done.
-    int filesOfLast = 1;
-    std::optional<size_t> uncertainRow;
 
     /// Without the entries that were taken back. Nothing where rows are lost, or there are more or less than
     /// so many.

@@ -23,6 +23,9 @@ ls
 orvanto-cli history
 orvanto-cli undo --yes
 ls
+orvanto-cli apply --yes --regexp '\d\.jpg$' .jpg --number 8,0,7 IMG_000*.jpg
+ls
+orvanto-cli undo --yes --quiet
 orvanto-cli preview --json --case upper,all IMG_0007.jpg
 """.strip().splitlines()
 

@@ -1,209 +1,23 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "mainwindow/fileitem.h"
-#include "run/journalfolder.h"
-#include "support/drivenwindow.h"
-#include "support/duringevents.h"
+#include "plannedwindow.h"
 #include "support/faketranslator.h"
-#include "support/modalanswer.h"
 #include "support/rowtip.h"
 
-#include <QAction>
 #include <QBoxLayout>
-#include <QLabel>
 #include <QMenu>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const auto putBack = u"Put everything back"_s;
-const auto keep = u"Keep what is done"_s;
-const auto renameRest = u"Rename what can be"_s;
-const auto settingName = u"Run.AllOrNothing"_s;
-
-/// Answers every message box with the button that has one of the wanted texts, otherwise with "Close".
-class ButtonPresser final
-{
-public:
-    ButtonPresser()
-    {
-        timer.callOnTimeout([this] { answer(); });
-        timer.start(0);
-    }
-    Q_DISABLE_COPY_MOVE(ButtonPresser)
-
-    QList<SeenBox> seen;
-    QStringList wanted;
-
-private:
-    void answer()
-    {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box || !box->isVisible())
-            return;
-        seen.append(SeenBox(*box));
-        QAbstractButton *pressed = box->button(QMessageBox::Ok);
-        if (!pressed)
-            pressed = box->escapeButton();
-        const auto buttons = box->buttons();
-        for (QAbstractButton *button : buttons)
-            pressed = wanted.contains(button->text()) ? button : pressed;
-        pressed->click();
-    }
-
-    QTimer timer;
-};
-
-} // namespace
-
 /// Runs that rename all files or none.
-class MainWindowPlanned : public QObject
+class MainWindowPlanned final : public PlannedWindowTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<TestSettings> settings;
-    std::unique_ptr<DrivenWindow> window;
-    std::unique_ptr<ButtonPresser> boxes;
-    TempTree *tree = nullptr;
-
-    void openWindow()
-    {
-        window = std::make_unique<DrivenWindow>();
-        window->stopLogTimer();
-        window->get()->show();
-    }
-    [[nodiscard]] QAction *entry() const { return window->child<QAction>("actionAllOrNothing"); }
-    [[nodiscard]] QLabel *mark() const { return window->get()->findChild<QLabel *>(u"labelAllOrNothing"_s); }
-    [[nodiscard]] QString told() const { return window->child<QLabel>("labelForecast")->text(); }
-    void run() const { window->click("buttonRename"); }
-    void preview() const
-    {
-        window->click("buttonPreview");
-        QTRY_VERIFY(told() != u"checking…"_s);
-    }
-    [[nodiscard]] QStringList fates() const
-    {
-        QStringList ids;
-        for (int row = 0; row < window->files()->count(); ++row)
-            ids.append(window->files()->item(row)->data(FileItem::FateRole).toString());
-        return ids;
-    }
-    [[nodiscard]] QStringList paths(const QStringList &names) const
-    {
-        QStringList paths;
-        for (const QString &name : names)
-            paths.append(tree->path(u"dir/"_s + name));
-        return paths;
-    }
-    /// Files, each with its name in it.
-    void drop(const QStringList &names) const
-    {
-        for (const QString &name : names)
-            tree->addFile(u"dir/"_s + name, name.toUtf8());
-        window->drop(paths(names));
-    }
-    /// What is in the folder: the files' new names and their first ones.
-    [[nodiscard]] QStringList folder() const
-    {
-        QStringList files;
-        const QStringList names = tree->names(u"dir"_s);
-        for (const QString &name : names)
-            files.append(name + u'=' + QString::fromUtf8(tree->content(u"dir/"_s + name)));
-        return files;
-    }
-    /// "a" and "b" get each other's name.
-    void addSwap() const
-    {
-        window->addReplace(u"a"_s, u"?"_s);
-        window->addReplace(u"b"_s, u"a"_s);
-        window->addReplace(u"?"_s, u"b"_s);
-    }
-    /// "a" gets the name of "b", "b" that of "c", and "c" that of "a".
-    void addRing() const
-    {
-        window->addReplace(u"a"_s, u"?"_s);
-        window->addReplace(u"c"_s, u"a"_s);
-        window->addReplace(u"b"_s, u"c"_s);
-        window->addReplace(u"?"_s, u"b"_s);
-    }
-    /// "000" becomes "001", and so on: every file but the last waits for the next one's name.
-    void addShift() const
-    {
-        window->addTrim(0, 3);
-        window->addEnumerate(1, 2);
-    }
-    /// Presses Cancel when so many rows are renamed.
-    [[nodiscard]] DuringEvents cancelAfter(int rows) const
-    {
-        return DuringEvents([this, rows](int) {
-            ProgressDialog *dialog = window->waitDialog();
-            if (dialog && !dialog->isHidden() && dialog->current == rows && dialog->buttonCancel->isVisible())
-                dialog->buttonCancel->click();
-        });
-    }
-    [[nodiscard]] QList<JournalInfo> journals() const { return JournalFolder(tree->path(u"undo"_s)).list(); }
-    [[nodiscard]] const SeenBox &report() const { return boxes->seen.constLast(); }
-
-    /// A run of ten files stops after six of them, as if it had been killed; the window is closed.
-    void interrupt()
-    {
-        window->drop(tree->addFiles(u"dir/%1"_s, 10));
-        addShift();
-        entry()->trigger();
-        QByteArray journal;
-        {
-            const DuringEvents meanwhile([&](int) {
-                const ProgressDialog *dialog = window->waitDialog();
-                const QStringList names = tree->names(u"undo"_s).filter(u".jsonl"_s);
-                if (dialog && dialog->current == 6 && !names.isEmpty())
-                    journal = tree->content(u"undo/"_s + names.constFirst());
-            });
-            run();
-        }
-        QVERIFY(!journal.isEmpty());
-        window.reset();
-        // The files as they were then.
-        for (int number = 1; number < 5; ++number)
-            QVERIFY(QFile::rename(tree->path(u"dir/00%1"_s.arg(number)),
-                                  tree->path(u"dir/00%1"_s.arg(number - 1))));
-        QVERIFY(writeFile(tree->path(u"undo/"_s + journals().constFirst().name), journal));
-        boxes->seen.clear();
-        AppLog::instance()->clearPending();
-    }
-    /// Presses a button of the list of runs; what a report said then.
-    [[nodiscard]] QString choose(const char *button) const
-    {
-        const ModalAnswer answer([&](QDialog *dialog) {
-            QCOMPARE(dialog->objectName(), u"DialogRuns"_s);
-            auto *choice = dialog->findChild<QPushButton *>(QLatin1StringView(button));
-            QVERIFY(choice->isVisible());
-            QTRY_VERIFY(choice->isEnabled());
-            choice->click();
-        });
-        window->child<QAction>("actionRuns")->trigger();
-        return boxes->seen.isEmpty() ? QString() : report().text;
-    }
-
 private slots:
-    void init()
-    {
-        settings = std::make_unique<TestSettings>();
-        tree = &settings->tree;
-        openWindow();
-        boxes = std::make_unique<ButtonPresser>();
-    }
-    void cleanup()
-    {
-        QVERIFY(window->pathsAgree());
-        QVERIFY(!window->waitDialog());
-        boxes.reset();
-        window.reset();
-        settings.reset();
-    }
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void offAtFirstAndNothingOfItIsSeen()
     {
@@ -621,7 +435,7 @@ private slots:
         entry()->trigger();
         window->click("buttonPreview");
         for (int i = 0; i < 20; ++i) {
-            QTest::qWait(2);
+            QCoreApplication::processEvents();
             delete window->files()->takeItem(0);
         }
         QTRY_COMPARE(told(), u"480 files: 480 will be renamed, 0 keep their names, 0 cannot"_s);
@@ -629,80 +443,6 @@ private slots:
         openWindow();
         window->drop(paths({u"000"_s}));
         window->click("buttonPreview");
-    }
-
-    void interruptedRunIsToldAndFinished()
-    {
-        interrupt();
-        openWindow();
-        QTRY_VERIFY(window->child<QToolButton>("buttonUndo")
-                        ->toolTip()
-                        .endsWith(u"\nThis run was interrupted; \"Runs…\" can finish it, too"_s));
-        QCOMPARE(DrivenWindow::logLines()
-                     .filter(QRegularExpression(
-                         u"^The run of .* was interrupted; \"Runs…\" can finish it or put it back$"_s))
-                     .size(),
-                 1);
-        QCOMPARE(boxes->seen.size(), 0);
-        window->drop({tree->path(u"dir/000"_s)});
-        const QString report = choose("buttonFinish");
-        QCOMPARE(report, u"Total 10\nProcessed 10\nFailed 0"_s);
-        QCOMPARE(folder().constFirst(), u"001=dir/000"_s);
-        QCOMPARE(folder().constLast(), u"010=dir/009"_s);
-        QCOMPARE(window->rowPaths(), paths({u"001"_s}));
-        QCOMPARE(journals().size(), 1);
-        QCOMPARE(journals().constFirst().state, JournalInfo::State::Complete);
-        QVERIFY(DrivenWindow::logLines().contains(u"Finishing a run started"_s));
-    }
-
-    void interruptedRunIsPutBack()
-    {
-        interrupt();
-        openWindow();
-        QCOMPARE(choose("buttonTakeBack").section(u'\n', 2), u"Failed 0"_s);
-        QCOMPARE(folder().constFirst(), u"000=dir/000"_s);
-        QCOMPARE(folder().constLast(), u"009=dir/009"_s);
-    }
-
-    void interruptedRunIsLeft()
-    {
-        interrupt();
-        const QStringList before = folder();
-        openWindow();
-        (void)choose("buttonLeave");
-        QCOMPARE(folder(), before);
-        QVERIFY(!journals().constFirst().isOpen);
-        QTRY_VERIFY(!window->child<QToolButton>("buttonUndo")->toolTip().contains(u'\n'));
-    }
-
-    void whatCannotBeFinishedIsTold()
-    {
-        interrupt();
-        tree->addFile(u"dir/004"_s, "in the way");
-        const QStringList before = folder();
-        openWindow();
-        window->drop({tree->path(u"dir/003"_s)});
-        QCOMPARE(choose("buttonFinish").section(u'\n', 2), u"Failed 4"_s);
-        QCOMPARE(report().informativeText, u"Nothing was renamed, as not every file can be."_s);
-        QVERIFY(!report().buttonTexts.values().contains(renameRest));
-        QCOMPARE(fates(), QStringList({u"taken"_s}));
-        QCOMPARE(folder(), before);
-        QVERIFY(journals().constFirst().canFinish());
-    }
-
-    void cancelLeavesItToBeFinishedLater()
-    {
-        interrupt();
-        openWindow();
-        {
-            const DuringEvents cancel = cancelAfter(2);
-            QCOMPARE(choose("buttonFinish").section(u'\n', 2), u"Failed 0"_s);
-        }
-        QCOMPARE(report().informativeText, u"The run is not finished yet."_s);
-        QVERIFY(journals().constFirst().canFinish());
-        QVERIFY(folder().contains(u"000=dir/000"_s));
-        QCOMPARE(choose("buttonFinish"), u"Total 10\nProcessed 10\nFailed 0"_s);
-        QCOMPARE(folder().constFirst(), u"001=dir/000"_s);
     }
 
     void textsFollowTheLanguage()
