@@ -56,6 +56,10 @@ void AllOrNothing::showMark()
         mark->setPixmap(QIcon(u":/img/allornothing.png"_s).pixmap(16));
         mark->setContentsMargins(0, 0, 4, 0);
         layout->insertWidget(0, mark);
+        mark->show();
+        // A layout that is asked before it hears of the mark would go on with what it knew.
+        for (QWidget *widget = mark; widget; widget = widget->parentWidget())
+            widget->updateGeometry();
     }
     retranslate();
 }

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -21,13 +22,19 @@ int widthOfLabels(const QGridLayout *grid)
     return width;
 }
 
-/// The fields of an editor in the order that its form gives them.
+/// The fields of an editor in the order in which Tab goes through them.
 QWidgetList fieldsOf(const QWidget *editor)
 {
     QWidgetList fields;
     for (QWidget *next = editor->nextInFocusChain(); next != editor; next = next->nextInFocusChain()) {
         if (editor->isAncestorOf(next) && next->focusPolicy() & Qt::TabFocus && !next->focusProxy())
             fields.append(next);
+    }
+    // Where they stand in a column that is what the eye follows.
+    if (auto *column = qobject_cast<QVBoxLayout *>(editor->layout())) {
+        std::stable_sort(fields.begin(), fields.end(), [column](QWidget *one, QWidget *other) {
+            return column->indexOf(one) < column->indexOf(other);
+        });
     }
     return fields;
 }

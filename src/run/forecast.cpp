@@ -27,7 +27,8 @@ Forecast::~Forecast() = default;
 
 void Forecast::add(const FilePath &file)
 {
-    folders.at(QStringView(file.path).first(file.nameAt)).addRow(file.name(), addedRows);
+    folders.at(QStringView(file.path).first(file.nameAt))
+        .addRow(QStringView(file.path).sliced(file.nameAt), addedRows);
     ++addedRows;
 }
 

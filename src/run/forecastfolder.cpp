@@ -13,9 +13,14 @@ ForecastFolder::ForecastFolder(const DiskView &onView, const QString &ofPath)
 {
 }
 
-void ForecastFolder::addRow(const QString &name, int row)
+void ForecastFolder::addRow(QStringView name, int row)
 {
-    rows.append({name, row});
+    addRowOfKept(namesOfRows.keep(name), row);
+}
+
+void ForecastFolder::addRowOfKept(QStringView name, int row)
+{
+    rows.append({name.data(), static_cast<int>(name.size()), row});
 }
 
 bool ForecastFolder::read(int atMost)
@@ -58,7 +63,7 @@ bool ForecastFolder::placeRows(int atMost)
     const qsizetype end = std::min(rows.size(), placedRows + atMost);
     for (; placedRows < end; ++placedRows) {
         const Row &row = rows.at(placedRows);
-        Entry *entry = find(row.name);
+        Entry *entry = find(QStringView(row.name, row.size));
         if (entry && entry->row < 0)
             entry->row = row.row;
     }
@@ -66,6 +71,7 @@ bool ForecastFolder::placeRows(int atMost)
         return false;
     rows.clear();
     rows.squeeze();
+    namesOfRows = {};
     return true;
 }
 

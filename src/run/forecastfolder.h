@@ -32,7 +32,9 @@ public:
     ForecastFolder(const DiskView &view, const QString &path);
 
     /// A row of the list, before the folder is read. Of the rows of one file the first counts.
-    void addRow(const QString &name, int row);
+    void addRow(QStringView name, int row);
+    /// The same of a text that stays where it is until the folder was read.
+    void addRowOfKept(QStringView name, int row);
     /// Reads on; false while there is more. Nothing below may be asked before it said true.
     [[nodiscard]] bool read(int atMost);
     /// What is in it shall not be told: counts as read, and as unreadable.
@@ -63,9 +65,11 @@ public:
     [[nodiscard]] bool mayMove(const QString &file) const;
 
 private:
+    /// Of a name that is kept elsewhere; of these there are as many as rows, all at once.
     struct Row
     {
-        QString name;
+        const QChar *name;
+        int size;
         int row;
     };
 
@@ -88,6 +92,7 @@ private:
     QHash<QStringView, Entry> names;
     /// How many have a name but for the case, where the spelling is unknown.
     QHash<QString, int> alike;
+    NameStore namesOfRows;
     QList<Row> rows;
     qsizetype placedRows = 0;
     mutable QString folded;

@@ -20,8 +20,11 @@ Plan::~Plan() = default;
 
 void Plan::add(const FilePath &file, const QString &newName)
 {
-    folders.at(QStringView(file.path).first(file.nameAt)).addRow(file.name(), static_cast<int>(rows.size()));
+    const int number = static_cast<int>(rows.size());
     rows.push_back({file, newName});
+    // The text stays where it is, in this row.
+    folders.at(QStringView(file.path).first(file.nameAt))
+        .addRowOfKept(QStringView(rows.back().file.path).sliced(file.nameAt), number);
 }
 
 void Plan::make()
@@ -66,9 +69,8 @@ ForecastFolder &Plan::sourceOf(const Row &row)
     return folders.read(QStringView(row.file.path).first(row.file.nameAt));
 }
 
-ForecastFolder &Plan::targetOf(const Row &row)
+ForecastFolder &Plan::targetOf(const Row &row, qsizetype lastPartAt)
 {
-    const qsizetype lastPartAt = NewName(row.newName).lastPartAt;
     return lastPartAt == 0 ? sourceOf(row) : folders.read(row.file.sibling(row.newName.first(lastPartAt)));
 }
 
@@ -81,10 +83,11 @@ void Plan::noteMovedWays()
 
 void Plan::noteMovedWay(const Row &row)
 {
-    if (row.newName == row.file.name() || NewName(row.newName).refusal)
+    const QStringView name = QStringView(row.file.path).sliced(row.file.nameAt);
+    if (row.newName == name)
         return;
-    const Entry *entry = sourceOf(row).find(QStringView(row.file.path).sliced(row.file.nameAt));
-    if (!entry || entry->kind == Kind::File)
+    const Entry *entry = sourceOf(row).find(name);
+    if (!entry || entry->kind == Kind::File || NewName(row.newName).refusal)
         return;
     const auto there = entry->kind ? std::nullopt : view.identity(row.file.path);
     const auto kind = there ? std::optional(there->kind) : entry->kind;
@@ -111,7 +114,7 @@ Fate Plan::claimName(int number)
         return Fate::Missing;
     if (row.newName == name)
         return Fate::Unchanged;
-    ForecastFolder &target = targetOf(row);
+    ForecastFolder &target = targetOf(row, seen.lastPartAt);
     if (const auto fate = fateIn(target.traits().state, Fate::NoFolder))
         return *fate;
     const QString path = row.file.sibling(row.newName);

@@ -87,7 +87,7 @@ private:
     void refuseWaiters(int number);
     void orderFrom(int number, bool isRing);
     [[nodiscard]] ForecastFolder &sourceOf(const Row &row);
-    [[nodiscard]] ForecastFolder &targetOf(const Row &row);
+    [[nodiscard]] ForecastFolder &targetOf(const Row &row, qsizetype lastPartAt);
 
     const DiskView &view;
     FolderMap folders;

@@ -158,7 +158,7 @@ class Streams(Shell):
         self.assertEqual(self.names(), ["a"] if run.returncode else ["Na"])
         self.assertEqual(self.names(), ["a"])
 
-    def test_a_million_paths_take_500_bytes_each(self):
+    def test_a_million_paths_take_400_bytes_each(self):
         # What the program takes without any path is no part of it.
         def peak(count, script):
             env = dict(self.env, orvanto=executable(), count=str(count))

@@ -3,6 +3,7 @@
 # SPDX-License-Identifier: MIT
 """./run where there is no display: the window in the web browser of the machine."""
 
+import contextlib
 import os
 import pathlib
 import re
@@ -76,7 +77,9 @@ class BrowserDisplay(unittest.TestCase):
 
     def kill_all(self):
         for process in self.processes():
-            os.kill(int(process.name), signal.SIGKILL)
+            # Some end by themselves meanwhile.
+            with contextlib.suppress(ProcessLookupError):
+                os.kill(int(process.name), signal.SIGKILL)
 
     def start(self):
         """Types ./run; the process, the address's parts and its password."""

@@ -3,7 +3,8 @@
 # SPDX-License-Identifier: MIT
 """The handbook: F1 opens it, and its pictures show the program as it is.
 
-The pictures are made anew in the screenshots of the tests, in the folder "handbook". To take them into the handbook:
+The pictures are made anew in the screenshots of the tests, in the folder "handbook"; those of all or nothing are parts
+of test_planned's, which kills a run for one of them. To take them into the handbook:
 cp build/ci/tests/e2e/screenshots/handbook/*.png docs/handbook/
 """
 
@@ -106,7 +107,8 @@ class Handbook(Case):
         self.runs(window)
         self.close()
         shown = set(Page(PAGE.read_text(encoding="utf-8")).pictures)
-        self.assertEqual(shown, self.taken)
+        self.assertEqual(shown - self.taken, {f"handbook/planned-{name}.png" for name in ("menu", "refused", "runs")})
+        self.assertEqual(self.taken - shown, set())
 
     def add_folder(self, window, folder):
         window.hands.keys("ctrl+shift+o")
@@ -147,7 +149,8 @@ class Handbook(Case):
     def runs(self, window):
         window.hands.click(window.file_button("runs"))
         wait_for_menu(self.desktop)
-        window.hands.keys("Up", "Return")
+        # Below it stands an entry more.
+        window.hands.keys("Up", "Up", "Return")
         runs = self.program.window("dialog", "Runs")
         until_equal(2, lambda: len([name for name in runs.one("tree").names() if "complete" in name]), "the runs")
         self.picture("runs", window)
