@@ -17,6 +17,10 @@ REGISTRY = "org.a11y.atspi.Registry"
 STATES = {"active": 1, "checked": 4, "enabled": 8, "expanded": 10, "focused": 12, "pressed": 20,
           "selected": 23, "showing": 25, "visible": 30}
 
+# What an object that has gone answers, and how often the others are asked anew because of that.
+UNKNOWN = "org.freedesktop.DBus.Error.UnknownObject"
+WALKS = 5
+
 # Their children are rows, of which there may be many.
 VIEWS = ("list", "tree", "table")
 
@@ -148,6 +152,16 @@ class Accessible:
 
     def all(self, role=None, name=None):
         """Every visible object below this one that matches, from top to bottom, then from left to right."""
+        for _ in range(WALKS - 1):
+            try:
+                return self._walk(role, name)
+            except GLib.Error as error:
+                # What goes while it is asked, such as what fades a page in, is no part of the answer.
+                if UNKNOWN not in error.message:
+                    raise
+        return self._walk(role, name)
+
+    def _walk(self, role, name):
         found, level = [], [self]
         while level:
             below = [child for (children,) in ask(level, "children") for child in children]

@@ -35,7 +35,7 @@ class FirstStart:
 
     @property
     def next_button(self):
-        return until(lambda: self.dialog.one("push button"), "the button")
+        return self.dialog.one("push button")
 
     def languages(self):
         """The codes of the offered languages, from top to bottom."""
