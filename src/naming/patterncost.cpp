@@ -26,14 +26,7 @@ namespace {
 
 // The longest file name that file systems take.
 constexpr int nameLength = 255;
-#ifdef __SANITIZE_ADDRESS__
-// Memory takes several times longer then, and with it each search.
-constexpr double longestSearch = 150; // milliseconds
-#else
 constexpr double longestSearch = 50; // milliseconds
-#endif
-/// So often a search has to take longer before that counts: the processor may be busy with something else.
-constexpr int mostTrials = 3;
 // The engine's parser recurses once per level and overflows a stack of 8 MiB at some 8,000 levels.
 constexpr int maxDepth = 100;
 // Each level multiplies the time by the name's length: too much from one trial to the next.
@@ -267,11 +260,8 @@ PatternCost patternCost(QStringView pattern)
 
 bool isQuickEnough(QStringView pattern, const std::function<void(const QString &)> &search)
 {
-    const auto leastCost = [&search](const QString &name) {
-        double cost = processorMilliseconds([&] { search(name); });
-        for (int trial = 1; trial < mostTrials && cost > longestSearch; ++trial)
-            cost = std::min(cost, processorMilliseconds([&] { search(name); }));
-        return cost;
+    const auto millisecondsFor = [&search](const QString &name) {
+        return processorMilliseconds([&] { search(name); });
     };
     QStringList names = adverseNames(pattern);
     double costBefore = 0.001;
@@ -279,8 +269,9 @@ bool isQuickEnough(QStringView pattern, const std::function<void(const QString &
     for (int length = 8;;) {
         QMultiMap<double, QString> costs;
         for (const QString &name : std::as_const(names)) {
-            costs.insert(leastCost(name.left(length)), name);
-            if (costs.lastKey() > longestSearch)
+            costs.insert(millisecondsFor(name.left(length)), name);
+            // Once more: the processor may have been busy with something else.
+            if (costs.lastKey() > longestSearch && millisecondsFor(name.left(length)) > longestSearch)
                 return false;
         }
         if (length == nameLength)
