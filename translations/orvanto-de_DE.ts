@@ -1671,11 +1671,11 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Dieser Lauf wurde unterbrochen; „Läufe…“ kann ihn auch beenden</translation>
+        <translation>Dieser Lauf wurde unterbrochen; „Läufe…“ kann ihn auch abschließen</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Dieser Lauf sollte alle Dateien umbenennen oder keine und wurde unterbrochen. Beenden Sie ihn, setzen Sie alles zurück, oder belassen Sie die Dateien, wie sie sind.</translation>
+        <translation>Dieser Lauf sollte alle Dateien umbenennen oder keine und wurde unterbrochen. Schließen Sie ihn ab, setzen Sie alles zurück, oder belassen Sie die Dateien, wie sie sind.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,7 +1683,7 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Beenden</translation>
+        <translation>Abschließen</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -1691,11 +1691,11 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>Beenden eines Laufs gestartet</translation>
+        <translation>Abschließen eines Laufs gestartet</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>Der Lauf von %1 wurde unterbrochen; „Läufe…“ kann ihn beenden oder zurücksetzen</translation>
+        <translation>Der Lauf von %1 wurde unterbrochen; „Läufe…“ kann ihn abschließen oder zurücksetzen</translation>
     </message>
 </context>
 <context>
