@@ -10,8 +10,7 @@ std::optional<Fate> FolderStep::refusalOfWay() const
     const FolderTraits &traits = target.traits();
     if (traits.volume != source.traits().volume)
         return Fate::NotAllowed;
-    if (isLongerThan(newName, traits.longestName, traits.lengthUnit) ||
-        isLongerThan(path, traits.longestPath, traits.pathUnit))
+    if (isLongerThan(newName, traits.longestName, traits.lengthUnit))
         return Fate::TooLong;
     return std::nullopt;
 }
@@ -30,6 +29,11 @@ std::optional<Fate> FolderStep::refusalOfName() const
 bool FolderStep::isChangeOfCase() const
 {
     return !isDetour && name.compare(newName, Qt::CaseInsensitive) == 0 && target.changesCase();
+}
+
+bool isPathTooLong(const QString &path, const FolderTraits &known)
+{
+    return isLongerThan(path, known.longestPath, known.pathUnit);
 }
 
 std::optional<Fate> fateIn(FolderTraits::State state, Fate missing)

@@ -29,5 +29,9 @@ struct FolderStep
     [[nodiscard]] bool isChangeOfCase() const;
 };
 
+/// Whether the system takes no path of that length: it looks at that before it looks into any folder.
+/// \a known are the traits of a folder that is there.
+[[nodiscard]] bool isPathTooLong(const QString &path, const FolderTraits &known);
+
 /// What becomes of rows in a folder, or of those that lead to it, where it cannot be looked into.
 [[nodiscard]] std::optional<Fate> fateIn(FolderTraits::State state, Fate missing);

@@ -69,6 +69,8 @@ Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &
         return Fate::Missing;
     if (newName == name)
         return entry->isSure ? Fate::Unchanged : Fate::Unknown;
+    if (isPathTooLong(outcome.path, source.traits()))
+        return entry->isSure ? Fate::TooLong : Fate::Unknown;
     if (seen.lastPartAt == 0)
         return move({file, source, source, name, entry, newName, outcome.path, false}, outcome);
     ForecastFolder &target = folders.read(file.sibling(newName.first(seen.lastPartAt)));

@@ -114,10 +114,12 @@ Fate Plan::claimName(int number)
         return Fate::Missing;
     if (row.newName == name)
         return Fate::Unchanged;
+    const QString path = row.file.sibling(row.newName);
+    if (isPathTooLong(path, source.traits()))
+        return Fate::TooLong;
     ForecastFolder &target = targetOf(row, seen.lastPartAt);
     if (const auto fate = fateIn(target.traits().state, Fate::NoFolder))
         return *fate;
-    const QString path = row.file.sibling(row.newName);
     return claim({row.file, source, target, name, entry, QStringView(row.newName).sliced(seen.lastPartAt),
                   path, seen.lastPartAt > 0},
                  number);

@@ -464,9 +464,13 @@ private slots:
     {
         ModelDisk model;
         model.addFolder(u"/dir"_s).traits.longestPath = FilePath::of(u"/dir/a"_s).nameAt + 5;
+        model.addFolder(u"/dir/v"_s).traits.volume = 2;
         model.add(u"/dir/a"_s);
-        const QList<Row> rows = rowsOf(u"/dir"_s, u"a>123456 a>12345"_s);
-        QCOMPARE(foretold(model, rows), (QStringList{u"too-long"_s, u"renamed"_s}));
+        // The length counts before the folder does.
+        const QList<Row> rows = rowsOf(u"/dir"_s, u"a>123456 a>no/456 a>no/45 a>v/3456 a>v/345 a>12345"_s);
+        QCOMPARE(foretold(model, rows),
+                 (QStringList{u"too-long"_s, u"separator too-long"_s, u"separator no-folder"_s,
+                              u"separator too-long"_s, u"separator not-allowed"_s, u"renamed"_s}));
     }
 
     // A folder of many files is read in slices, and each once.

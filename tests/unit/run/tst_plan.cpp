@@ -108,6 +108,7 @@ private slots:
     void named();
     void ignoresCase_data();
     void ignoresCase();
+    void pathsThatAreTooLong();
     void thirdNames();
     void takenBackByHand();
     void stuck();
@@ -215,6 +216,16 @@ void TestPlan::ignoresCase()
     QCOMPARE(run.state(), PlannedRun::State::Done);
     QTEST(counted.renames, "renames");
     QTEST(QStringList(files(disk).keys()).join(u' '), "names");
+}
+
+void TestPlan::pathsThatAreTooLong()
+{
+    ModelDisk disk;
+    makeFiles(disk, {u"a"_s, u"b"_s, u"c"_s});
+    disk.folderAt(folder).traits.longestPath = folder.size() + 6;
+    Plan plan(disk);
+    fill(plan, rowsOf(u"a>123456 b>no/456 c>12345"_s));
+    QCOMPARE(outcomes(plan, 3).join(u' '), u"too-long too-long renamed"_s);
 }
 
 /// They are hidden and short, tell nothing of the file, and are gone afterwards.
