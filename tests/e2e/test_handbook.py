@@ -154,7 +154,7 @@ class Handbook(Case):
         runs = self.program.window("dialog", "Runs")
         until_equal(2, lambda: len([name for name in runs.one("tree").names() if "complete" in name]), "the runs")
         self.picture("runs", window)
-        window.hands.keys("Escape")
+        window.keys_in(runs, "Escape")
         until(lambda: window.frame.has("active"), "the main window to be active")
 
 

@@ -277,8 +277,16 @@ class MainWindow:
         box = self.program.window(REPORT, "Report")
         return until(lambda: [label.name for label in box.all("label") if label.name], "the report's text")[0]
 
-    def close_report(self, key="Return"):
-        until(lambda: self.program.window(REPORT, "Report").has("active"), "the report to be active")
-        self.hands.keys(key)
+    def keys_in(self, dialog, *names):
+        """Types in a dialog as soon as the keyboard is its own."""
+        until(lambda: dialog.has("active"), f"{dialog.name} to be active")
+        self.hands.keys(*names)
+
+    def answer_report(self, key="Return"):
+        """Closes the report, whatever window it stands above."""
+        self.keys_in(self.program.window(REPORT, "Report"), key)
         until(lambda: not [w for w in self.program.windows if w.role == REPORT], "the report to close")
+
+    def close_report(self, key="Return"):
+        self.answer_report(key)
         until(lambda: self.frame.has("active"), "the main window to be active")
