@@ -90,10 +90,13 @@ void DialogRuns::createWidgets()
     labelNote->setObjectName(u"labelNote"_s);
     labelNote->setTextFormat(Qt::PlainText);
     labelNote->setWordWrap(true);
+    // A line of its own: all in one are too wide for small screens.
+    choices = new QDialogButtonBox(this);
+    buttonFinish = addButton(choices, finishButtonText(), u"buttonFinish"_s);
+    buttonPutBack = addButton(choices, putBackButtonText(), u"buttonPutBack"_s);
+    buttonLeave = addButton(choices, leaveButtonText(), u"buttonLeave"_s);
     auto *box = new QDialogButtonBox(this);
-    buttonFinish = addButton(box, finishButtonText(), u"buttonFinish"_s);
     buttonTakeBack = addButton(box, takeBackButtonText(), u"buttonTakeBack"_s);
-    buttonLeave = addButton(box, leaveButtonText(), u"buttonLeave"_s);
     buttonShowFiles = addButton(box, showFilesText(), u"buttonShowFiles"_s);
     buttonForget = addButton(box, forgetText(), u"buttonForget"_s);
     buttonForgetAll = addButton(box, forgetAllText(), u"buttonForgetAll"_s);
@@ -101,10 +104,12 @@ void DialogRuns::createWidgets()
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(tree);
     layout->addWidget(labelNote);
+    layout->addWidget(choices);
     layout->addWidget(box);
     connect(buttonFinish, &QPushButton::clicked, this, &DialogRuns::finishSelected);
-    connect(buttonTakeBack, &QPushButton::clicked, this, &DialogRuns::takeSelectedBack);
+    connect(buttonPutBack, &QPushButton::clicked, this, &DialogRuns::takeSelectedBack);
     connect(buttonLeave, &QPushButton::clicked, this, &DialogRuns::leaveSelected);
+    connect(buttonTakeBack, &QPushButton::clicked, this, &DialogRuns::takeSelectedBack);
     connect(buttonShowFiles, &QPushButton::clicked, this, &DialogRuns::showFiles);
     connect(buttonForget, &QPushButton::clicked, this, &DialogRuns::forgetSelected);
     connect(buttonForgetAll, &QPushButton::clicked, this, &DialogRuns::forgetAll);
@@ -149,7 +154,7 @@ void DialogRuns::showSelected()
     const int row = selectedRow();
     const JournalInfo run = row < 0 ? JournalInfo() : model->run(row);
     const JournalInfo *later = row < 0 ? nullptr : model->touchedBy(row);
-    buttonTakeBack->setEnabled(run.canTakeBack() && !later);
+    buttonTakeBack->setEnabled(run.canTakeBack() && !run.canFinish() && !later);
     buttonShowFiles->setEnabled(row >= 0 && isReadable(run));
     buttonForget->setEnabled(row >= 0 && run.state != JournalInfo::State::InHand);
     buttonForgetAll->setEnabled(model->rowCount() > 0);
@@ -158,16 +163,15 @@ void DialogRuns::showSelected()
     labelNote->setVisible(!labelNote->text().isEmpty());
 }
 
-/// Two of them are there only where some run was interrupted that can be finished.
+/// They are there only where some run was interrupted that can be finished.
 void DialogRuns::showChoices(const JournalInfo &run, const JournalInfo *later)
 {
     bool isAnyUnfinished = false;
     for (int row = 0; row < model->rowCount(); ++row)
         isAnyUnfinished = isAnyUnfinished || model->run(row).canFinish();
-    buttonTakeBack->setText(run.canFinish() ? putBackButtonText() : takeBackButtonText());
-    buttonFinish->setVisible(isAnyUnfinished);
+    choices->setVisible(isAnyUnfinished);
     buttonFinish->setEnabled(run.canFinish() && !later);
-    buttonLeave->setVisible(isAnyUnfinished);
+    buttonPutBack->setEnabled(run.canTakeBack() && run.canFinish() && !later);
     buttonLeave->setEnabled(run.canFinish());
 }
 

@@ -11,6 +11,7 @@
 #include <atomic>
 #include <functional>
 
+class QDialogButtonBox;
 class QLabel;
 class QPushButton;
 class QTreeView;
@@ -53,9 +54,11 @@ private:
     RunModel *model;
     QTreeView *tree;
     QLabel *labelNote;
+    QDialogButtonBox *choices = nullptr;
     QPushButton *buttonFinish = nullptr;
-    QPushButton *buttonTakeBack = nullptr;
+    QPushButton *buttonPutBack = nullptr;
     QPushButton *buttonLeave = nullptr;
+    QPushButton *buttonTakeBack = nullptr;
     QPushButton *buttonShowFiles = nullptr;
     QPushButton *buttonForget = nullptr;
     QPushButton *buttonForgetAll = nullptr;

@@ -6,6 +6,7 @@
 #include "run/journalfolder.h"
 #include "run/journalleddisk.h"
 #include "run/journalreader.h"
+#include "run/plannedrun.h"
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
 #include "run/undorun.h"
@@ -41,6 +42,25 @@ public:
         journal->end(false);
         write(name, asItWas);
         return name;
+    }
+
+    /// A planned run of several renames that ends after the first of them.
+    QString interruptedPlan(const QList<std::pair<QString, QString>> &renames)
+    {
+        const SystemDiskView view;
+        Plan plan(view);
+        for (const auto &[from, to] : renames)
+            plan.add(FilePath::of(tree.path(from)), to);
+        plan.make();
+        QString error;
+        const auto journal = journals.beginPlanned(QStringLiteral("1.2.3"), plan.order().size(), &error);
+        if (!journal)
+            qFatal("no journal: %s", qPrintable(error));
+        PlannedRun planned(disk, plan, journal.get());
+        while (planned.next() && planned.renamed() < 1) {
+        }
+        planned.end();
+        return nameOf(*journal);
     }
 
     std::unique_ptr<Journal> begin(int rows)

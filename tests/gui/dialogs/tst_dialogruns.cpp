@@ -4,7 +4,6 @@
 #include "dialogs/dialogruns.h"
 #include "dialogs/runfilesmodel.h"
 #include "dialogs/runmodel.h"
-#include "run/plannedrun.h"
 #include "support/modalanswer.h"
 
 #include "support/journalfiles.h"
@@ -58,23 +57,6 @@ private:
         const QLocale system = QLocale::system();
         return system.toString(files->info(run).time.toLocalTime(),
                                system.timeFormat(QLocale::ShortFormat).remove(u":ss"_s));
-    }
-    /// Of three rows one is renamed; gives the run's name.
-    [[nodiscard]] QString interruptPlannedRun() const
-    {
-        const SystemDiskView view;
-        Plan plan(view);
-        for (const QString &name : {u"f001"_s, u"f002"_s, u"f003"_s})
-            plan.add(FilePath::of(files->tree.path(name)), u"h"_s + name.last(1));
-        plan.make();
-        QString error;
-        const auto journal = files->journals.beginPlanned(u"1.2.3"_s, 3, &error);
-        const QString name = QFileInfo(journal->path()).fileName();
-        PlannedRun run(files->disk, plan, journal.get());
-        while (run.next() && run.renamed() < 1) {
-        }
-        run.end();
-        return name;
     }
     /// The texts of the files' table of the selected run.
     [[nodiscard]] QStringList shownFiles() const
@@ -200,27 +182,28 @@ private slots:
         files->tree.addFiles(u"f%1"_s, 5);
         files->run({{u"f000"_s, u"g"_s}});
         open();
-        QVERIFY(button("buttonFinish")->isHidden());
-        QVERIFY(button("buttonLeave")->isHidden());
+        const auto isChoiceShown = [this] { return button("buttonFinish")->isVisible(); };
+        QVERIFY(!isChoiceShown());
         dialog.reset();
 
-        const QString name = interruptPlannedRun();
+        const QString name =
+            files->interruptedPlan({{u"f001"_s, u"h1"_s}, {u"f002"_s, u"h2"_s}, {u"f003"_s, u"h3"_s}});
         open();
         QTRY_COMPARE(states(), QStringList({u"interrupted"_s, u"complete"_s}));
-        QCOMPARE(button("buttonTakeBack")->text(), u"Put back"_s);
+        QCOMPARE(button("buttonPutBack")->text(), u"Put back"_s);
         QCOMPARE(button("buttonFinish")->text(), u"Finish"_s);
         QCOMPARE(button("buttonLeave")->text(), u"Leave"_s);
-        for (const char *choice : {"buttonFinish", "buttonTakeBack", "buttonLeave"}) {
+        for (const char *choice : {"buttonFinish", "buttonPutBack", "buttonLeave"}) {
             QVERIFY(button(choice)->isVisible());
             QVERIFY(button(choice)->isEnabled());
             QVERIFY(!button(choice)->autoDefault());
         }
+        QVERIFY(!button("buttonTakeBack")->isEnabled());
         QVERIFY(note().startsWith("This run was to rename all files or none"_L1));
         select(1);
-        QCOMPARE(button("buttonTakeBack")->text(), u"Take back"_s);
         QVERIFY(button("buttonTakeBack")->isEnabled());
-        QVERIFY(!button("buttonFinish")->isEnabled());
-        QVERIFY(!button("buttonLeave")->isEnabled());
+        for (const char *choice : {"buttonFinish", "buttonPutBack", "buttonLeave"})
+            QVERIFY(!button(choice)->isEnabled());
         QCOMPARE(note(), QString());
 
         select(0);
@@ -232,8 +215,7 @@ private slots:
         QCOMPARE(finished, QStringList(name));
         button("buttonLeave")->click();
         QVERIFY(!files->info(name).isOpen);
-        QVERIFY(button("buttonFinish")->isHidden());
-        QCOMPARE(button("buttonTakeBack")->text(), u"Take back"_s);
+        QVERIFY(!isChoiceShown());
         QVERIFY(button("buttonTakeBack")->isEnabled());
         QCOMPARE(files->tree.names().filter(u"f"_s), QStringList({u"f002"_s, u"f003"_s, u"f004"_s}));
     }

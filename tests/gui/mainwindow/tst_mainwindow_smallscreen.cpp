@@ -5,9 +5,9 @@
 #include "dialogs/dialogruns.h"
 #include "dialogs/dialogsettings.h"
 #include "dialogs/dialogstart.h"
-#include "run/journalfolder.h"
 #include "support/cutoff.h"
 #include "support/drivenwindow.h"
+#include "support/journalfiles.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -225,7 +225,10 @@ private slots:
         verify("first start", start);
         start.findChild<QStackedWidget *>(u"stackedWidget"_s)->setCurrentIndex(1);
         verify("first start, second page", start);
-        DialogRuns runs(JournalFolder(settings->tree.path(u"history"_s)), window->get());
+        JournalledTree files;
+        files.tree.addFiles(u"f%1"_s, 2);
+        files.interruptedPlan({{u"f000"_s, u"g0"_s}, {u"f001"_s, u"g1"_s}});
+        DialogRuns runs(files.journals, window->get());
         verify("runs", runs);
         ProgressDialog wait(window->get());
         verify("wait", wait);

@@ -85,7 +85,7 @@ private slots:
     {
         interrupt();
         openWindow();
-        QCOMPARE(choose("buttonTakeBack").section(u'\n', 2), u"Failed 0"_s);
+        QCOMPARE(choose("buttonPutBack").section(u'\n', 2), u"Failed 0"_s);
         QCOMPARE(folder().constFirst(), u"000=dir/000"_s);
         QCOMPARE(folder().constLast(), u"009=dir/009"_s);
     }
