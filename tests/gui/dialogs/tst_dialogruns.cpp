@@ -182,7 +182,9 @@ private slots:
         files->tree.addFiles(u"f%1"_s, 5);
         files->run({{u"f000"_s, u"g"_s}});
         open();
-        const auto isChoiceShown = [this] { return button("buttonFinish")->isVisible(); };
+        const auto isChoiceShown = [this] {
+            return button("buttonFinish")->isVisible();
+        };
         QVERIFY(!isChoiceShown());
         dialog.reset();
 
