@@ -31,9 +31,12 @@ bool FolderStep::isChangeOfCase() const
     return !isDetour && name.compare(newName, Qt::CaseInsensitive) == 0 && target.changesCase();
 }
 
-bool isPathTooLong(const QString &path, const FolderTraits &known)
+bool isPathTooLong(const FilePath &file, const QString &newName, const FolderTraits &known)
 {
-    return isLongerThan(path, known.longestPath, known.pathUnit);
+    // Most are too short for the path to be made; no character takes more bytes.
+    if (3 * (file.nameAt + newName.size()) <= known.longestPath)
+        return false;
+    return isLongerThan(file.sibling(newName), known.longestPath, known.pathUnit);
 }
 
 std::optional<Fate> fateIn(FolderTraits::State state, Fate missing)

@@ -16,8 +16,6 @@ struct FolderStep
     ForecastFolder::Entry *entry;
     /// Of the new name the last part.
     QStringView newName;
-    /// Where that leads.
-    QString path;
     /// Whether the new name leads elsewhere, if only by a detour.
     bool isDetour;
 
@@ -29,9 +27,9 @@ struct FolderStep
     [[nodiscard]] bool isChangeOfCase() const;
 };
 
-/// Whether the system takes no path of that length: it looks at that before it looks into any folder.
-/// \a known are the traits of a folder that is there.
-[[nodiscard]] bool isPathTooLong(const QString &path, const FolderTraits &known);
+/// Whether the system takes no path of the length that a new name leads to: it looks at that before it looks
+/// into any folder. \a known are the traits of the file's own one.
+[[nodiscard]] bool isPathTooLong(const FilePath &file, const QString &newName, const FolderTraits &known);
 
 /// What becomes of rows in a folder, or of those that lead to it, where it cannot be looked into.
 [[nodiscard]] std::optional<Fate> fateIn(FolderTraits::State state, Fate missing);

@@ -69,10 +69,10 @@ Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &
         return Fate::Missing;
     if (newName == name)
         return entry->isSure ? Fate::Unchanged : Fate::Unknown;
-    if (isPathTooLong(outcome.path, source.traits()))
+    if (isPathTooLong(file, newName, source.traits()))
         return entry->isSure ? Fate::TooLong : Fate::Unknown;
     if (seen.lastPartAt == 0)
-        return move({file, source, source, name, entry, newName, outcome.path, false}, outcome);
+        return move({file, source, source, name, entry, newName, false}, outcome);
     ForecastFolder &target = folders.read(file.sibling(newName.first(seen.lastPartAt)));
     if (const auto fate = fateIn(target.traits().state, Fate::NoFolder)) {
         if (*fate == Fate::Unknown)
@@ -80,9 +80,8 @@ Fate Forecast::reasonFor(const FilePath &file, const QString &newName, Outcome &
         // A file that may be gone is missing before its new folder is.
         return entry->isSure ? *fate : Fate::Unknown;
     }
-    return move(
-        {file, source, target, name, entry, QStringView(newName).sliced(seen.lastPartAt), outcome.path, true},
-        outcome);
+    return move({file, source, target, name, entry, QStringView(newName).sliced(seen.lastPartAt), true},
+                outcome);
 }
 
 /// Of a folder that took the place of a row's file: systems may take a separator at the end of its new name.

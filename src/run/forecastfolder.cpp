@@ -15,12 +15,8 @@ ForecastFolder::ForecastFolder(const DiskView &onView, const QString &ofPath)
 
 void ForecastFolder::addRow(QStringView name, int row)
 {
-    addRowOfKept(namesOfRows.keep(name), row);
-}
-
-void ForecastFolder::addRowOfKept(QStringView name, int row)
-{
-    rows.append({name.data(), static_cast<int>(name.size()), row});
+    rows.append({namesOfRows.keep(name), row});
+    expectRow();
 }
 
 bool ForecastFolder::read(int atMost)
@@ -42,7 +38,7 @@ bool ForecastFolder::readNames(int atMost)
         reader = view.open(path);
         known = reader->traits();
         // Those that are there, and those that come.
-        names.reserve(2 * rows.size());
+        names.reserve(2 * expectedRows);
     }
     for (int i = 0; i < atMost; ++i) {
         const std::optional<FolderEntry> entry = reader->next();
@@ -53,7 +49,7 @@ bool ForecastFolder::readNames(int atMost)
                 findOutSpelling();
             return placeRows(atMost - i);
         }
-        names.insert(store.keep(keyOf(entry->name)), {.isThere = true, .kind = entry->kind});
+        put(entry->name, {.isThere = true, .kind = entry->kind});
     }
     return false;
 }
@@ -63,7 +59,7 @@ bool ForecastFolder::placeRows(int atMost)
     const qsizetype end = std::min(rows.size(), placedRows + atMost);
     for (; placedRows < end; ++placedRows) {
         const Row &row = rows.at(placedRows);
-        Entry *entry = find(QStringView(row.name, row.size));
+        Entry *entry = find(row.name);
         if (entry && entry->row < 0)
             entry->row = row.row;
     }
@@ -100,7 +96,7 @@ void ForecastFolder::findOutSpelling()
 
 void ForecastFolder::foldNames()
 {
-    const QHash<QStringView, Entry> exact = std::exchange(names, {});
+    const QHash<QStringView, Entry *> exact = std::exchange(names, {});
     names.reserve(exact.size());
     for (auto name = exact.begin(); name != exact.end(); ++name)
         names.insert(store.keep(keyOf(name.key())), name.value());
@@ -120,8 +116,12 @@ QStringView ForecastFolder::keyOf(QStringView name) const
 
 ForecastFolder::Entry *ForecastFolder::find(QStringView name)
 {
-    const auto entry = names.find(keyOf(name));
-    return entry != names.end() ? &*entry : nullptr;
+    return names.value(keyOf(name));
+}
+
+void ForecastFolder::put(QStringView name, const Entry &entry)
+{
+    names.insert(store.keep(keyOf(name)), &entries.emplace_back(entry));
 }
 
 void ForecastFolder::insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind)
@@ -130,7 +130,7 @@ void ForecastFolder::insert(Entry *gone, QStringView name, int row, std::optiona
     if (gone)
         *gone = entry;
     else
-        names.insert(store.keep(keyOf(name)), entry);
+        put(name, entry);
     if (known.spelling == Spelling::Unknown)
         ++alike[foldedName(name, Spelling::AnyCase)];
 }
@@ -144,9 +144,10 @@ void ForecastFolder::remove(Entry *entry, QStringView name)
 
 ForecastFolder::Entry &ForecastFolder::claim(QStringView name, int row)
 {
-    Entry *entry = find(name);
+    // One look for both: of a name that is there, too, the key is kept a second time.
+    Entry *&entry = names[store.keep(keyOf(name))];
     if (!entry)
-        entry = &*names.insert(store.keep(keyOf(name)), {.kind = {}});
+        entry = &entries.emplace_back();
     if (entry->taker >= 0)
         return *entry;
     entry->taker = row;
@@ -160,7 +161,7 @@ void ForecastFolder::doubt(Entry *entry, QStringView name)
     if (entry)
         entry->isSure = false;
     else
-        names.insert(store.keep(keyOf(name)), {.isSure = false, .kind = {}});
+        put(name, {.isSure = false, .kind = {}});
 }
 
 bool ForecastFolder::mayClash(QStringView name, QStringView ownName) const

@@ -10,6 +10,8 @@
 #include <QHash>
 #include <QList>
 
+#include <deque>
+
 /// One folder of a forecast: what is in it, first on the disk, then after the moves told so far. The folder
 /// is read once.
 class ForecastFolder final
@@ -33,22 +35,20 @@ public:
 
     /// A row of the list, before the folder is read. Of the rows of one file the first counts.
     void addRow(QStringView name, int row);
-    /// The same of a text that stays where it is until the folder was read.
-    void addRowOfKept(QStringView name, int row);
+    /// One more file will be asked for: only for speed, and before the folder is read.
+    void expectRow() { ++expectedRows; }
     /// Reads on; false while there is more. Nothing below may be asked before it said true.
     [[nodiscard]] bool read(int atMost);
     /// What is in it shall not be told: counts as read, and as unreadable.
     void giveUp();
 
     [[nodiscard]] const FolderTraits &traits() const { return known; }
-    /// What is, or was, there by the name, by whatever spelling; null if nothing ever was. Good until
-    /// insert() is called.
+    /// What is, or was, there by the name, by whatever spelling; null if nothing ever was.
     [[nodiscard]] Entry *find(QStringView name);
     /// Puts what is moved here under its new name, in the place of what was there.
     void insert(Entry *gone, QStringView name, int row, std::optional<FileIdentity::Kind> kind);
     void remove(Entry *entry, QStringView name);
-    /// The row shall have the name, if none shall have it already: the entry's taker tells. Good until the
-    /// next name is claimed.
+    /// The row shall have the name, if none shall have it already: the entry's taker tells.
     Entry &claim(QStringView name, int row);
     /// Whether something is there by the name shall be unknown; the entry is that of the name, if there is
     /// one.
@@ -65,15 +65,15 @@ public:
     [[nodiscard]] bool mayMove(const QString &file) const;
 
 private:
-    /// Of a name that is kept elsewhere; of these there are as many as rows, all at once.
     struct Row
     {
-        const QChar *name;
-        int size;
+        QStringView name;
         int row;
     };
 
     [[nodiscard]] QStringView keyOf(QStringView name) const;
+    /// In the place of an entry that the name may have had.
+    void put(QStringView name, const Entry &entry);
     [[nodiscard]] bool readNames(int atMost);
     [[nodiscard]] bool placeRows(int atMost);
     void findOutSpelling();
@@ -88,12 +88,15 @@ private:
     bool canChangeCase = true;
 
     NameStore store;
+    /// They stay where they are.
+    std::deque<Entry> entries;
     /// By their keys, which are in the store.
-    QHash<QStringView, Entry> names;
+    QHash<QStringView, Entry *> names;
     /// How many have a name but for the case, where the spelling is unknown.
     QHash<QString, int> alike;
     NameStore namesOfRows;
     QList<Row> rows;
     qsizetype placedRows = 0;
+    qsizetype expectedRows = 0;
     mutable QString folded;
 };

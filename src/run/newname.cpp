@@ -9,20 +9,37 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isSeparator(char16_t character)
+{
+    return character == u'/' || QChar(character) == QDir::separator();
+}
+
+/// Whether it has to be looked at more closely than most names.
+bool isPlain(QStringView name)
+{
+    return std::none_of(name.utf16(), name.utf16() + name.size(), [](char16_t character) {
+        return isSeparator(character) || character == 0 || QChar::isSurrogate(character);
+    });
+}
+
+} // namespace
+
 bool leadsElsewhere(QStringView newName)
 {
-    return std::any_of(newName.utf16(), newName.utf16() + newName.size(), [](char16_t character) {
-        return character == u'/' || QChar(character) == QDir::separator();
-    });
+    return std::any_of(newName.utf16(), newName.utf16() + newName.size(), isSeparator);
 }
 
 NewName::NewName(QStringView newName)
 {
-    lastPartAt = std::max(newName.lastIndexOf(u'/'), newName.lastIndexOf(QDir::separator())) + 1;
+    const bool isSimple = isPlain(newName);
+    if (!isSimple)
+        lastPartAt = std::max(newName.lastIndexOf(u'/'), newName.lastIndexOf(QDir::separator())) + 1;
     const QStringView lastPart = newName.sliced(lastPartAt);
-    if (!newName.isValidUtf16())
+    if (!isSimple && !newName.isValidUtf16())
         refusal = Fate::NoText;
-    else if (newName.contains(QChar::Null))
+    else if (!isSimple && newName.contains(QChar::Null))
         refusal = Fate::NotAllowed;
     else if (lastPart.isEmpty() || lastPart == u"." || lastPart == u"..")
         refusal = Fate::Empty;

@@ -20,17 +20,16 @@ Plan::~Plan() = default;
 
 void Plan::add(const FilePath &file, const QString &newName)
 {
-    const int number = static_cast<int>(rows.size());
     rows.push_back({file, newName});
-    // The text stays where it is, in this row.
-    folders.at(QStringView(file.path).first(file.nameAt))
-        .addRowOfKept(QStringView(rows.back().file.path).sliced(file.nameAt), number);
+    folders.at(QStringView(file.path).first(file.nameAt)).expectRow();
 }
 
 void Plan::make()
 {
-    noteMovedWays();
     const int count = static_cast<int>(rows.size());
+    // Before anything else, as nothing is told of rows whose way may be another one by then.
+    for (int row = 0; row < count; ++row)
+        findFile(row);
     for (int row = 0; row < count; ++row)
         rows[static_cast<size_t>(row)].fate = claimName(row);
     for (int row = 0; row < count; ++row)
@@ -74,23 +73,26 @@ ForecastFolder &Plan::targetOf(const Row &row, qsizetype lastPartAt)
     return lastPartAt == 0 ? sourceOf(row) : folders.read(row.file.sibling(row.newName.first(lastPartAt)));
 }
 
-/// Before anything else, as nothing is told of rows whose way may be another one by then.
-void Plan::noteMovedWays()
+void Plan::findFile(int number)
 {
-    for (const Row &row : rows)
-        noteMovedWay(row);
+    Row &row = rows[static_cast<size_t>(number)];
+    row.entry = sourceOf(row).find(QStringView(row.file.path).sliced(row.file.nameAt));
+    if (!row.entry)
+        return;
+    // Of two rows of one file the first one moves it.
+    if (row.entry->row < 0)
+        row.entry->row = number;
+    noteMovedWay(row);
 }
 
 void Plan::noteMovedWay(const Row &row)
 {
-    const QStringView name = QStringView(row.file.path).sliced(row.file.nameAt);
-    if (row.newName == name)
+    const auto known = row.entry->kind;
+    const bool isKept = row.newName == QStringView(row.file.path).sliced(row.file.nameAt);
+    if (known == Kind::File || isKept || NewName(row.newName).refusal)
         return;
-    const Entry *entry = sourceOf(row).find(name);
-    if (!entry || entry->kind == Kind::File || NewName(row.newName).refusal)
-        return;
-    const auto there = entry->kind ? std::nullopt : view.identity(row.file.path);
-    const auto kind = there ? std::optional(there->kind) : entry->kind;
+    const auto there = known ? std::nullopt : view.identity(row.file.path);
+    const auto kind = there ? std::optional(there->kind) : known;
     if (kind != Kind::Folder && kind != Kind::Link)
         return;
     folders.noteMovedWay(row.file.path);
@@ -107,21 +109,18 @@ Fate Plan::claimName(int number)
     ForecastFolder &source = sourceOf(row);
     if (const auto fate = fateIn(source.traits().state, Fate::Missing))
         return *fate;
-    const QStringView name = QStringView(row.file.path).sliced(row.file.nameAt);
-    Entry *entry = source.find(name);
-    // Of two rows of one file the first one moves it.
-    if (!entry || !entry->isThere || entry->row != number)
+    if (!row.entry || !row.entry->isThere || row.entry->row != number)
         return Fate::Missing;
+    const QStringView name = QStringView(row.file.path).sliced(row.file.nameAt);
     if (row.newName == name)
         return Fate::Unchanged;
-    const QString path = row.file.sibling(row.newName);
-    if (isPathTooLong(path, source.traits()))
+    if (isPathTooLong(row.file, row.newName, source.traits()))
         return Fate::TooLong;
     ForecastFolder &target = targetOf(row, seen.lastPartAt);
     if (const auto fate = fateIn(target.traits().state, Fate::NoFolder))
         return *fate;
-    return claim({row.file, source, target, name, entry, QStringView(row.newName).sliced(seen.lastPartAt),
-                  path, seen.lastPartAt > 0},
+    return claim({row.file, source, target, name, row.entry, QStringView(row.newName).sliced(seen.lastPartAt),
+                  seen.lastPartAt > 0},
                  number);
 }
 
@@ -135,7 +134,6 @@ Fate Plan::claim(const FolderStep &step, int number)
     if (step.entry->kind == Kind::Folder &&
         QDir::cleanPath(row.file.sibling(row.newName)).startsWith(row.file.path + u'/'))
         return Fate::NotAllowed;
-    const bool canChangeCase = step.isChangeOfCase();
     const Entry &place = step.target.claim(step.newName, number);
     if (place.taker != number) {
         row.blocker = place.taker;
@@ -149,7 +147,8 @@ Fate Plan::claim(const FolderStep &step, int number)
         return folder.traits().spelling == FolderTraits::Spelling::Exact;
     };
     row.isExact = isExact(step.source) && isExact(step.target);
-    row.isOwnName = place.isThere && place.row == number && &step.source == &step.target && !canChangeCase;
+    row.isOwnName =
+        place.isThere && place.row == number && &step.source == &step.target && !step.isChangeOfCase();
     return Fate::Renamed;
 }
 

@@ -67,6 +67,8 @@ private:
     {
         FilePath file;
         QString newName;
+        /// What is by the file's name; null where nothing is.
+        ForecastFolder::Entry *entry = nullptr;
         Fate fate = Fate::Renamed;
         /// Of the row that has the new name, or shall have it; -1: none.
         int blocker = -1;
@@ -79,7 +81,7 @@ private:
         bool isHeld = false;
     };
 
-    void noteMovedWays();
+    void findFile(int number);
     void noteMovedWay(const Row &row);
     [[nodiscard]] Fate claimName(int number);
     [[nodiscard]] Fate claim(const FolderStep &step, int number);
