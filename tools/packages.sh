@@ -17,7 +17,7 @@ test_packages=(
     fonts-dejavu-core g++-mingw-w64-x86-64-posix gir1.2-atspi-2.0 imagemagick librsvg2-bin mold mount ntfs-3g
     novnc openbox procps python3 python3-cryptography python3-gi python3-jsonschema python3-pyatspi qt6-wayland qt6ct
     shared-mime-info trayer util-linux websockify weston wmctrl x11-utils x11vnc x11-xserver-utils xclip xdg-utils
-    xdotool xkb-data xvfb
+    xdotool xkb-data xterm xvfb
     fish man-db time zsh
 )
 analysis_packages=(clang-tidy-14 clazy python3)
