@@ -21,9 +21,11 @@ void tellNotRenamed(const Failure &failure, Failures &failures)
 
 void tellNotPutBack(int row, const FilePath &file, const QString &pathNow, Failures &failures)
 {
-    const FilePath now{.path = pathNow, .nameAt = file.nameAt};
-    AppLog::instance()->append(notPutBackText(file.name(), now.name()));
-    failures.append({row, now, {.fate = Fate::Unknown, .reason = Fate::Unknown, .path = file.path}});
+    // A file that was exchanged may be in the folder of another row.
+    const bool isBelow = pathNow.startsWith(QStringView(file.path).first(file.nameAt));
+    AppLog::instance()->append(notPutBackText(file.name(), isBelow ? pathNow.sliced(file.nameAt) : pathNow));
+    failures.append(
+        {row, FilePath::of(pathNow), {.fate = Fate::Unknown, .reason = Fate::Unknown, .path = file.path}});
 }
 
 bool showPlannedReport(QWidget *parent, const PlannedReport &report, const Failures &failures)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "plannedwindow.h"
+
+#include "mainwindow/plannedreport.h"
 #include "support/faketranslator.h"
 #include "support/rowtip.h"
 
@@ -365,6 +367,15 @@ private slots:
                  qPrintable(lines.join(u'\n')));
         QCOMPARE(window->files()->path(9), tree->path(u"dir/010"_s));
         QCOMPARE(tree->content(u"dir/010"_s), QByteArray("dir/009"));
+    }
+
+    /// An exchange put it there.
+    void fileInTheFolderOfAnotherRowIsTold()
+    {
+        Failures failures;
+        tellNotPutBack(3, FilePath::of(u"/quite/a/long/folder/a"_s), u"/b/c"_s, failures);
+        QCOMPARE(failures.constFirst().file.name(), u"c"_s);
+        QVERIFY(DrivenWindow::logLines().contains(u"Could not put back file 'a': it is called '/b/c'"_s));
     }
 
     void windowThatIsClosedPutsEverythingBackUnasked()
