@@ -26,6 +26,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -67,6 +68,14 @@ public:
                                               Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint))
     {
         window->initialize();
+    }
+
+    /// Shows it as the window that has the keyboard; false when it does not get that.
+    [[nodiscard]] bool showActive() const
+    {
+        window->show();
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window.get());
     }
 
     /// Leaves log lines pending until onTimeout() is called: they are drained at no other moment then.

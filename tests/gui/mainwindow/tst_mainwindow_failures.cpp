@@ -104,8 +104,7 @@ private slots:
         QCOMPARE(data(5, Qt::AccessibleDescriptionRole), u"Not renamed: the file is not there."_s);
         QVERIFY(tipIs(window->files()->item(0), {}));
         QCOMPARE(window->rowTexts(), QStringList({u"first"_s, u"2"_s, u"3"_s, u"x"_s, u"y"_s, u"gone"_s}));
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         QTest::keyClick(window->get(), Qt::Key_F8);
         QCOMPARE(window->files()->currentRow(), 1);
         window->click("checkBoxShowFullPath");

@@ -66,12 +66,7 @@ private:
         QCoreApplication::sendEvent(window->files()->viewport(), &event);
         return event.isAccepted();
     }
-    void showActive() const
-    {
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
-    }
+    void showActive() const { QVERIFY(window->showActive()); }
 
 private slots:
     void init()

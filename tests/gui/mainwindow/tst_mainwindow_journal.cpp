@@ -175,9 +175,7 @@ private slots:
         // Never automatic.
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"xa"_s, u"xb"_s}));
         // Once a start.
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         renameTwo();
         QCOMPARE(DrivenWindow::logLines().filter(u"interrupted"_s).size(), 1);
     }

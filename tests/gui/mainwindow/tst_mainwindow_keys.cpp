@@ -43,9 +43,7 @@ private slots:
         tree = &settings->tree;
         window = std::make_unique<DrivenWindow>();
         window->stopLogTimer();
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
     }
     void cleanup()
     {
@@ -98,8 +96,7 @@ private slots:
         window->files()->setFocus();
         QDialog dialog(window->get());
         dialog.show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         press(Qt::Key_F5);
         press(Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(!window->preview()->isChecked());

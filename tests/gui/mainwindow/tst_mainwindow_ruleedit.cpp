@@ -47,12 +47,7 @@ private:
         }
         return texts;
     }
-    void show() const
-    {
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
-    }
+    void show() const { QVERIFY(window->showActive()); }
     void focusTree(int row) const
     {
         window->selectRule(row);

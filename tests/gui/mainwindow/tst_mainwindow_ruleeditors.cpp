@@ -40,12 +40,7 @@ private:
     std::unique_ptr<DrivenWindow> window;
     TempTree *tree = nullptr;
 
-    void show() const
-    {
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
-    }
+    void show() const { QVERIFY(window->showActive()); }
     /// Where the first field of a kind's editor begins.
     [[nodiscard]] int column(RuleKind kind) const
     {

@@ -31,9 +31,7 @@ private:
     {
         window = std::make_unique<DrivenWindow>();
         window->stopLogTimer();
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         QTRY_VERIFY(!QFile::exists(tree->path(u"undo"_s)) || button()->isEnabled());
     }
     [[nodiscard]] QToolButton *button() const { return window->child<QToolButton>("buttonUndo"); }
@@ -376,8 +374,7 @@ private slots:
     {
         renameTwo();
         QTRY_VERIFY(button()->isEnabled());
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         auto *filter = window->child<QLineEdit>("lineEditFileFilter");
         filter->setFocus();
         QTest::keyClicks(filter, u"abc"_s);
@@ -397,8 +394,7 @@ private slots:
         QTest::keyClick(window->files(), Qt::Key_Z, Qt::ControlModifier);
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"a"_s, u"b"_s}));
         QTRY_VERIFY(action("actionRedo")->isEnabled());
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         QTest::keyClick(window->files(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(tree->names(u"dir"_s), QStringList({u"xa"_s, u"xb"_s}));
     }

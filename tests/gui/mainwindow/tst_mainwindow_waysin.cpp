@@ -87,9 +87,7 @@ private slots:
         tree = &settings->tree;
         window = std::make_unique<DrivenWindow>();
         window->stopLogTimer();
-        window->get()->show();
-        window->get()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window->get()));
+        QVERIFY(window->showActive());
         window->files()->setFocus();
     }
     void cleanup()
