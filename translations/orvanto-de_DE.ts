@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Mögliche umbenennen</translation>
+        <translation>Soweit möglich umbenennen</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The run is not finished yet.</source>
-        <translation>Der Lauf ist noch nicht beendet.</translation>
+        <translation>Der Lauf ist noch nicht zu Ende.</translation>
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
@@ -387,7 +387,7 @@
     </message>
     <message>
         <source>checking…</source>
-        <translation>Prüfung läuft…</translation>
+        <translation>Prüfung läuft …</translation>
     </message>
     <message>
         <source>Go to the next row in trouble (F8)</source>
@@ -431,7 +431,7 @@
     </message>
     <message>
         <source>Show details…</source>
-        <translation>Details anzeigen…</translation>
+        <translation>Details anzeigen …</translation>
     </message>
     <message>
         <source>Not Renamed</source>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>Undo, redo and earlier runs</source>
-        <translation>Rückgängig, Wiederherstellen und frühere Läufe</translation>
+        <translation>Rückgängig, Wiederholen und frühere Läufe</translation>
     </message>
     <message>
         <source>Add files and folders</source>
@@ -1155,7 +1155,7 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Save the active rules under a name, and take them up again</source>
-        <translation>Die aktiven Regeln unter einem Namen speichern und wieder aufnehmen</translation>
+        <translation>Die aktiven Regeln unter einem Namen speichern und wieder laden</translation>
     </message>
     <message>
         <source>The rules were changed since.</source>
@@ -1503,11 +1503,11 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>1 Umbenennung von %1 in %2 zurücknehmen</translation>
+        <translation>1 Umbenennung (%1) im Ordner %2 zurücknehmen</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>%1 Umbenennungen von %2 in %3 zurücknehmen</translation>
+        <translation>%1 Umbenennungen (%2) im Ordner %3 zurücknehmen</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1531,7 +1531,7 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederherstellen</translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>Close</source>
@@ -1543,11 +1543,11 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Datei &apos;%1&apos; konnte nicht zurückgenommen werden: %2</translation>
+        <translation>Umbenennung der Datei &apos;%1&apos; konnte nicht zurückgenommen werden: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>%1 Umbenennungen von %2 in %3 Ordnern zurücknehmen</translation>
+        <translation>%1 Umbenennungen (%2) in %3 Ordnern zurücknehmen</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1667,15 +1667,15 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Runs…</source>
-        <translation>Läufe…</translation>
+        <translation>Läufe …</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Dieser Lauf wurde unterbrochen; „Läufe…“ kann ihn auch abschließen</translation>
+        <translation>Dieser Lauf wurde unterbrochen; „Läufe …“ kann ihn auch zu Ende führen</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Dieser Lauf sollte alle Dateien umbenennen oder keine und wurde unterbrochen. Schließen Sie ihn ab, setzen Sie alles zurück, oder belassen Sie die Dateien, wie sie sind.</translation>
+        <translation>Dieser Lauf sollte alle Dateien umbenennen oder keine und wurde unterbrochen. Führen Sie ihn zu Ende, setzen Sie alles zurück, oder belassen Sie die Dateien, wie sie sind.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,19 +1683,19 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Abschließen</translation>
+        <translation>Zu Ende führen</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Belassen</translation>
+        <translation>So belassen</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>Abschließen eines Laufs gestartet</translation>
+        <translation>Ein Lauf wird zu Ende geführt</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>Der Lauf von %1 wurde unterbrochen; „Läufe…“ kann ihn abschließen oder zurücksetzen</translation>
+        <translation>Der Lauf von %1 wurde unterbrochen; „Läufe …“ kann ihn zu Ende führen oder zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -1710,7 +1710,7 @@ Bitte prüfen Sie, ob der Name stimmt.</translation>
     </message>
     <message>
         <source>Extension</source>
-        <translation>Erweiterung</translation>
+        <translation>Dateiendung</translation>
     </message>
     <message>
         <source>Size</source>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1: no se renombrará nada, porque %2 no se pueden renombrar</translation>
+        <translation>%1: no se renombrará nada, porque hay %2 con problemas</translation>
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Renombrar los posibles</translation>
+        <translation>Renombrar lo que se pueda</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>No se pudo restaurar toda la ejecución; archivos sin su nombre anterior: %1</translation>
+        <translation>No se ha podido restaurar todo; archivos sin su nombre anterior: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>No se pudo restaurar el archivo &apos;%1&apos;: se llama &apos;%2&apos;</translation>
+        <translation>No se ha podido restaurar el archivo &apos;%1&apos;: se llama &apos;%2&apos;</translation>
     </message>
 </context>
 <context>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Tidy upper and lower case</source>
-        <translation>Ordenar mayúsculas y minúsculas</translation>
+        <translation>Normalizar mayúsculas y minúsculas</translation>
     </message>
     <message>
         <source>Without camera prefixes</source>
@@ -1483,11 +1483,11 @@ Compruebe que el nombre sea correcto.</translation>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Se interrumpió una acción de deshacer; lo que quedó todavía se puede restaurar</translation>
+        <translation>Se interrumpió una acción de deshacer; lo que falta todavía se puede deshacer</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>La ejecución de %1 se interrumpió; los nombres que cambió se pueden restaurar</translation>
+        <translation>La ejecución de %1 se interrumpió; los cambios de nombre que hizo se pueden deshacer</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1503,11 +1503,11 @@ Compruebe que el nombre sea correcto.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Restaurar 1 nombre cambiado a las %1 en %2</translation>
+        <translation>Deshacer 1 cambio de nombre (%1) en %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Restaurar %1 nombres cambiados a las %2 en %3</translation>
+        <translation>Deshacer %1 cambios de nombre (%2) en %3</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Compruebe que el nombre sea correcto.</translation>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>De esta ejecución ya no queda nada por restaurar.</translation>
+        <translation>De esta ejecución ya no queda nada por deshacer.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Compruebe que el nombre sea correcto.</translation>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Restauración iniciada</translation>
+        <translation>Se han empezado a deshacer los cambios de nombre</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>No se pudo restaurar el archivo &apos;%1&apos;: %2</translation>
+        <translation>No se ha podido deshacer el cambio de nombre del archivo &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Restaurar %1 nombres cambiados a las %2 en %3 carpetas</translation>
+        <translation>Deshacer %1 cambios de nombre (%2) en %3 carpetas</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1695,7 +1695,7 @@ Compruebe que el nombre sea correcto.</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>La ejecución de %1 se interrumpió; «Ejecuciones…» puede terminarla o restaurarla</translation>
+        <translation>La ejecución de %1 se interrumpió; «Ejecuciones…» puede terminarla o restaurar todo</translation>
     </message>
 </context>
 <context>

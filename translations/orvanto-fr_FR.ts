@@ -36,15 +36,15 @@
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1&#xa0;: rien ne sera renommé, car %2 ne peuvent pas l’être</translation>
+        <translation>%1&#xa0;: rien ne sera renommé, car il y en a %2 avec problème</translation>
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
-        <translation>Nouveaux noms jusqu’ici&#xa0;: %1 sur %2. Tout rétablir, ou garder ce qui est fait&#xa0;?</translation>
+        <translation>Nouveaux noms jusqu’ici&#xa0;: %1 sur %2. Tout restaurer, ou garder ce qui est fait&#xa0;?</translation>
     </message>
     <message>
         <source>Put everything back</source>
-        <translation>Tout rétablir</translation>
+        <translation>Tout restaurer</translation>
     </message>
     <message>
         <source>Keep what is done</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Renommer les possibles</translation>
+        <translation>Renommer ce qui peut l’être</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>L’exécution n’a pas pu être rétablie en entier&#xa0;; fichiers sans leur ancien nom&#xa0;: %1</translation>
+        <translation>La restauration est incomplète&#xa0;; fichiers sans leur ancien nom&#xa0;: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>Impossible de rétablir le fichier &apos;%1&apos;&#xa0;: il s’appelle &apos;%2&apos;</translation>
+        <translation>Impossible de restaurer le fichier &apos;%1&apos;&#xa0;: il s’appelle &apos;%2&apos;</translation>
     </message>
 </context>
 <context>
@@ -399,11 +399,11 @@
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot</source>
-        <translation>%1&#xa0;: %2 à renommer, %3, %4 en échec</translation>
+        <translation>%1&#xa0;: %2 à renommer, %3, %4 avec problème</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
-        <translation>%1&#xa0;: %2 à renommer, %3, %4 en échec, %5 sans certitude</translation>
+        <translation>%1&#xa0;: %2 à renommer, %3, %4 avec problème, %5 sans certitude</translation>
     </message>
     <message>
         <source>Keeps its name.</source>
@@ -647,7 +647,7 @@
     <message>
         <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
         <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
-        <translation>Choisissez ci-dessus un type de règle, remplissez ses champs et appuyez sur « %1 »</translation>
+        <translation>Choisissez ci-dessus un type de règle, remplissez ses champs et appuyez sur «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1416,7 +1416,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Upper and lower case differ; as much as possible is found.</source>
-        <translation>Majuscules et minuscules sont distinguées ; le plus long texte possible est trouvé.</translation>
+        <translation>Majuscules et minuscules sont distinguées&#xa0;; le plus long texte possible est trouvé.</translation>
     </message>
     <message>
         <source>any character</source>
@@ -1444,7 +1444,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>a blank</source>
-        <translation>une espace</translation>
+        <translation>un espace</translation>
     </message>
     <message>
         <source>any number of a, also none</source>
@@ -1476,18 +1476,18 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>a group: \1 in the new text is what it found</source>
-        <translation>un groupe : \1 dans le nouveau texte est ce qu&apos;il a trouvé</translation>
+        <translation>un groupe&#xa0;: \1 dans le nouveau texte est ce qu’il a trouvé</translation>
     </message>
 </context>
 <context>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Une annulation a été interrompue ; le reste peut encore être rétabli</translation>
+        <translation>Une annulation a été interrompue&#xa0;; le reste peut encore être annulé</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>L’exécution de %1 a été interrompue ; les noms qu’elle a changés peuvent être rétablis</translation>
+        <translation>L’exécution de %1 a été interrompue&#xa0;; les changements de nom qu’elle a faits peuvent être annulés</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1495,7 +1495,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
-        <translation>Les derniers changements de nom de cette exécution ne pourront pas être annulés : %1</translation>
+        <translation>Les derniers changements de nom de cette exécution ne pourront pas être annulés&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 folders</source>
@@ -1503,11 +1503,11 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Rétablir 1 nom changé à %1 dans %2</translation>
+        <translation>Annuler 1 changement de nom (%1) dans %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Rétablir %1 noms changés à %2 dans %3</translation>
+        <translation>Annuler %1 changements de nom (%2) dans %3</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>Il ne reste rien à rétablir de cette exécution.</translation>
+        <translation>Il ne reste rien à annuler de cette exécution.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Rétablissement des noms commencé</translation>
+        <translation>Début de l’annulation</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Impossible de rétablir le fichier &apos;%1&apos; : %2</translation>
+        <translation>Impossible d’annuler le changement de nom du fichier &apos;%1&apos;&#xa0;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Rétablir %1 noms changés à %2 dans %3 dossiers</translation>
+        <translation>Annuler %1 changements de nom (%2) dans %3 dossiers</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1631,7 +1631,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Forget all runs? The files stay as they are, and no run can be taken back any more.</source>
-        <translation>Oublier toutes les exécutions ? Les fichiers restent tels quels, et aucune exécution ne pourra plus être annulée.</translation>
+        <translation>Oublier toutes les exécutions&#xa0;? Les fichiers restent tels quels, et aucune exécution ne pourra plus être annulée.</translation>
     </message>
     <message>
         <source>Files of the Run of %1</source>
@@ -1671,15 +1671,15 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Cette exécution a été interrompue ; « Exécutions… » peut aussi la terminer</translation>
+        <translation>Cette exécution a été interrompue&#xa0;; «&#xa0;Exécutions…&#xa0;» peut aussi la terminer</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Cette exécution devait renommer tous les fichiers ou aucun, et a été interrompue. Terminez-la, rétablissez tout, ou laissez les fichiers tels quels.</translation>
+        <translation>Cette exécution devait renommer tous les fichiers ou aucun, et a été interrompue. Terminez-la, restaurez tout, ou laissez les fichiers tels quels.</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation>Rétablir</translation>
+        <translation>Restaurer</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -1687,7 +1687,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Laisser</translation>
+        <translation>Laisser ainsi</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
@@ -1695,7 +1695,7 @@ Vérifiez que son nom est correct.</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>L’exécution de %1 a été interrompue ; « Exécutions… » peut la terminer ou la rétablir</translation>
+        <translation>L’exécution de %1 a été interrompue&#xa0;; «&#xa0;Exécutions…&#xa0;» peut la terminer ou tout restaurer</translation>
     </message>
 </context>
 <context>

@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1: niente sarà rinominato, perché %2 non possono esserlo</translation>
+        <translation>%1: niente sarà rinominato, a causa di %2 con problemi</translation>
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Rinomina quelli possibili</translation>
+        <translation>Rinomina dove possibile</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Niente è stato rinominato: un file non è riuscito e gli altri hanno di nuovo il vecchio nome.</translation>
+        <translation>Niente è stato rinominato: un file ha dato errore e gli altri hanno di nuovo il vecchio nome.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>Non è stato possibile ripristinare tutta l’esecuzione; file senza il vecchio nome: %1</translation>
+        <translation>Non è stato possibile ripristinare tutto; file senza il vecchio nome: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The run is not finished yet.</source>
-        <translation>L’esecuzione non è ancora terminata.</translation>
+        <translation>L’esecuzione non è ancora stata completata.</translation>
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
-        <translation>&quot;Titolo - Artista&quot; al posto di &quot;Artista - Titolo&quot;</translation>
+        <translation>«Titolo - Artista» al posto di «Artista - Titolo»</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
     </message>
     <message>
         <source>Show &amp;hidden files</source>
-        <translation>Mostra i file &amp;nascosti</translation>
+        <translation>Mostra i file n&amp;ascosti</translation>
     </message>
     <message>
         <source>Sidebar</source>
@@ -1210,11 +1210,11 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
-        <translation>Esiste già un insieme di regole &quot;%1&quot;. Sostituirlo?</translation>
+        <translation>Esiste già un insieme di regole «%1». Sostituirlo?</translation>
     </message>
     <message>
         <source>Delete the rule set &quot;%1&quot;?</source>
-        <translation>Eliminare l’insieme di regole &quot;%1&quot;?</translation>
+        <translation>Eliminare l’insieme di regole «%1»?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1468,7 +1468,7 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>the beginning of the name</source>
-        <translation>l&apos;inizio del nome</translation>
+        <translation>l’inizio del nome</translation>
     </message>
     <message>
         <source>the end of the name</source>
@@ -1483,11 +1483,11 @@ Controllare che il nome sia corretto.</translation>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Un annullamento è stato interrotto; il resto può ancora essere ripristinato</translation>
+        <translation>Un annullamento è stato interrotto; il resto può ancora essere annullato</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>L’esecuzione di %1 è stata interrotta; i nomi che ha cambiato possono essere ripristinati</translation>
+        <translation>L’esecuzione di %1 è stata interrotta; i cambi di nome già fatti possono essere annullati</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1495,7 +1495,7 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>The last renames of this run cannot be undone: %1</source>
-        <translation>Le ultime rinominazioni di questa esecuzione non possono essere annullate: %1</translation>
+        <translation>Gli ultimi cambi di nome di questa esecuzione non possono essere annullati: %1</translation>
     </message>
     <message>
         <source>%1 folders</source>
@@ -1503,11 +1503,11 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Ripristina 1 nome cambiato alle %1 in %2</translation>
+        <translation>Annulla 1 cambio di nome (%1) in %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Ripristina %1 nomi cambiati alle %2 in %3</translation>
+        <translation>Annulla %1 cambi di nome (%2) in %3</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>Di questa esecuzione non resta nulla da ripristinare.</translation>
+        <translation>Di questa esecuzione non resta nulla da annullare.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Ripristino avviato</translation>
+        <translation>Annullamento avviato</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Impossibile ripristinare il file &apos;%1&apos;: %2</translation>
+        <translation>Impossibile annullare il cambio di nome del file &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Ripristina %1 nomi cambiati alle %2 in %3 cartelle</translation>
+        <translation>Annulla %1 cambi di nome (%2) in %3 cartelle</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1671,11 +1671,11 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Questa esecuzione è stata interrotta; «Esecuzioni…» può anche terminarla</translation>
+        <translation>Questa esecuzione è stata interrotta; «Esecuzioni…» può anche completarla</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Questa esecuzione doveva rinominare tutti i file o nessuno ed è stata interrotta. È possibile terminarla, ripristinare tutto o lasciare i file come sono.</translation>
+        <translation>Questa esecuzione doveva rinominare tutti i file o nessuno ed è stata interrotta. È possibile completarla, ripristinare tutto o lasciare i file come sono.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,11 +1683,11 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Termina</translation>
+        <translation>Completa</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Lascia</translation>
+        <translation>Lascia così</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
@@ -1695,7 +1695,7 @@ Controllare che il nome sia corretto.</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>L’esecuzione di %1 è stata interrotta; «Esecuzioni…» può terminarla o ripristinarla</translation>
+        <translation>L’esecuzione di %1 è stata interrotta; «Esecuzioni…» può completarla o ripristinare tutto</translation>
     </message>
 </context>
 <context>

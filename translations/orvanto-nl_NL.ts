@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1: niets wordt hernoemd, want %2 niet mogelijk</translation>
+        <translation>%1: er wordt niets hernoemd (%2 niet mogelijk)</translation>
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The run is not finished yet.</source>
-        <translation>De uitvoering is nog niet afgemaakt.</translation>
+        <translation>De uitvoering is nog niet voltooid.</translation>
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
-        <translation>&quot;Titel - Artiest&quot; in plaats van &quot;Artiest - Titel&quot;</translation>
+        <translation>“Titel - Artiest” in plaats van “Artiest - Titel”</translation>
     </message>
 </context>
 <context>
@@ -647,7 +647,7 @@
     <message>
         <source>Choose a kind of rule above, fill in its fields and press &quot;%1&quot;</source>
         <extracomment>%1 is the text of the button &quot;Add&quot;</extracomment>
-        <translation>Kies hierboven een soort regel, vul de velden in en druk op ‘%1’</translation>
+        <translation>Kies hierboven een soort regel, vul de velden in en druk op “%1”</translation>
     </message>
 </context>
 <context>
@@ -1210,11 +1210,11 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
-        <translation>Er is al een regelset &quot;%1&quot;. Vervangen?</translation>
+        <translation>Er is al een regelset “%1”. Vervangen?</translation>
     </message>
     <message>
         <source>Delete the rule set &quot;%1&quot;?</source>
-        <translation>De regelset &quot;%1&quot; verwijderen?</translation>
+        <translation>De regelset “%1” verwijderen?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1448,11 +1448,11 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>any number of a, also none</source>
-        <translation>een willekeurig aantal a&apos;s, ook geen</translation>
+        <translation>een willekeurig aantal a’s, ook geen</translation>
     </message>
     <message>
         <source>one a or more</source>
-        <translation>een of meer a&apos;s</translation>
+        <translation>een of meer a’s</translation>
     </message>
     <message>
         <source>one a or none</source>
@@ -1460,7 +1460,7 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>two to four a</source>
-        <translation>twee tot vier a&apos;s</translation>
+        <translation>twee tot vier a’s</translation>
     </message>
     <message>
         <source>either ab or cd</source>
@@ -1543,7 +1543,7 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Kon bestand &apos;%1&apos; niet terugdraaien: %2</translation>
+        <translation>Kon de hernoeming van bestand &apos;%1&apos; niet terugdraaien: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
@@ -1567,7 +1567,7 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>State</source>
-        <translation>Toestand</translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>partly taken back</source>
@@ -1671,11 +1671,11 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Deze uitvoering is onderbroken; “Uitvoeringen…” kan haar ook afmaken</translation>
+        <translation>Deze uitvoering is onderbroken; “Uitvoeringen…” kan deze ook voltooien</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Deze uitvoering zou alle bestanden hernoemen of geen, en is onderbroken. Maak haar af, zet alles terug, of laat de bestanden zoals ze zijn.</translation>
+        <translation>Deze uitvoering zou alle bestanden hernoemen of geen, en is onderbroken. Voltooi de uitvoering, zet alles terug, of laat de bestanden zoals ze zijn.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,7 +1683,7 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Afmaken</translation>
+        <translation>Voltooien</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -1691,11 +1691,11 @@ Controleer of de naam klopt.</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>Afmaken van een uitvoering gestart</translation>
+        <translation>Voltooien van een uitvoering gestart</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>De uitvoering van %1 is onderbroken; “Uitvoeringen…” kan haar afmaken of terugzetten</translation>
+        <translation>De uitvoering van %1 is onderbroken; “Uitvoeringen…” kan deze voltooien of terugzetten</translation>
     </message>
 </context>
 <context>

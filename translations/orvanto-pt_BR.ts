@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
-        <translation>%1: nada será renomeado, pois %2 não podem ser</translation>
+        <translation>%1: nada será renomeado, pois há %2 com problemas</translation>
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
@@ -57,11 +57,11 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Renomear os possíveis</translation>
+        <translation>Renomear o que for possível</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
-        <translation>Nada foi renomeado, pois nem todos os arquivos podem ser.</translation>
+        <translation>Nada foi renomeado, pois nem todos os arquivos podem ser renomeados.</translation>
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>Não foi possível restaurar toda a execução; arquivos sem o nome antigo: %1</translation>
+        <translation>Não foi possível restaurar tudo; arquivos sem o nome antigo: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The run is not finished yet.</source>
-        <translation>A execução ainda não terminou.</translation>
+        <translation>A execução ainda não foi concluída.</translation>
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
-        <translation>&quot;Título - Artista&quot; no lugar de &quot;Artista - Título&quot;</translation>
+        <translation>“Título - Artista” no lugar de “Artista - Título”</translation>
     </message>
 </context>
 <context>
@@ -1210,11 +1210,11 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
-        <translation>Já existe um conjunto de regras &quot;%1&quot;. Substituí-lo?</translation>
+        <translation>Já existe um conjunto de regras “%1”. Substituí-lo?</translation>
     </message>
     <message>
         <source>Delete the rule set &quot;%1&quot;?</source>
-        <translation>Excluir o conjunto de regras &quot;%1&quot;?</translation>
+        <translation>Excluir o conjunto de regras “%1”?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1483,11 +1483,11 @@ Verifique se o nome está correto.</translation>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Uma ação de desfazer foi interrompida; o restante ainda pode ser restaurado</translation>
+        <translation>Uma ação de desfazer foi interrompida; o restante ainda pode ser desfeito</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>A execução de %1 foi interrompida; os nomes que ela alterou podem ser restaurados</translation>
+        <translation>A execução de %1 foi interrompida; as renomeações feitas podem ser desfeitas</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1503,11 +1503,11 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Restaurar 1 nome alterado às %1 em %2</translation>
+        <translation>Desfazer 1 renomeação (%1) em %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Restaurar %1 nomes alterados às %2 em %3</translation>
+        <translation>Desfazer %1 renomeações (%2) em %3</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>Não resta nada desta execução para restaurar.</translation>
+        <translation>Não resta nada desta execução para desfazer.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Restauração iniciada</translation>
+        <translation>Ação de desfazer iniciada</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Não foi possível restaurar o arquivo &apos;%1&apos;: %2</translation>
+        <translation>Não foi possível desfazer a renomeação do arquivo &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Restaurar %1 nomes alterados às %2 em %3 pastas</translation>
+        <translation>Desfazer %1 renomeações (%2) em %3 pastas</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1671,11 +1671,11 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Esta execução foi interrompida; “Execuções…” também pode terminá-la</translation>
+        <translation>Esta execução foi interrompida; “Execuções…” também pode concluí-la</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Esta execução deveria renomear todos os arquivos ou nenhum e foi interrompida. Você pode terminá-la, restaurar tudo ou deixar os arquivos como estão.</translation>
+        <translation>Esta execução deveria renomear todos os arquivos ou nenhum e foi interrompida. Você pode concluí-la, restaurar tudo ou deixar os arquivos como estão.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,7 +1683,7 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Terminar</translation>
+        <translation>Concluir</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -1691,11 +1691,11 @@ Verifique se o nome está correto.</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>Conclusão de uma execução iniciada</translation>
+        <translation>Iniciada a conclusão de uma execução</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>A execução de %1 foi interrompida; “Execuções…” pode terminá-la ou restaurá-la</translation>
+        <translation>A execução de %1 foi interrompida; “Execuções…” pode concluí-la ou restaurar tudo</translation>
     </message>
 </context>
 <context>
