@@ -594,7 +594,7 @@
     </message>
     <message>
         <source>Thank you!</source>
-        <translation>ありがとうございます!</translation>
+        <translation>ありがとうございます！</translation>
     </message>
     <message>
         <source>Application has been minimized.</source>
@@ -1309,7 +1309,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>is missing</source>
-        <translation>がありません</translation>
+        <translation>このフィールドがありません</translation>
     </message>
     <message>
         <source>is no file</source>
@@ -1551,7 +1551,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation>実行</translation>
+        <translation>実行の一覧</translation>
     </message>
     <message>
         <source>When</source>
@@ -1675,11 +1675,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>この実行は、すべてのファイルの名前を変更するか何もしないはずでしたが、中断されました。続きを行うか、すべて元に戻すか、ファイルをそのままにしてください。</translation>
+        <translation>この実行は、すべてのファイルの名前を変更するか何もしないはずでしたが、中断されました。続きを行うか、すべて元に戻すか、ファイルをそのままにするかを選んでください。</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation>元に戻す</translation>
+        <translation>すべて元に戻す</translation>
     </message>
     <message>
         <source>Finish</source>
@@ -1687,7 +1687,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Leave</source>
-        <translation>そのまま</translation>
+        <translation>そのままにする</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
@@ -1695,7 +1695,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>%1 の実行は中断されました。「実行の一覧…」で続きを行うか元に戻せます</translation>
+        <translation>%1 の実行は中断されました。「実行の一覧…」で続きを行うことも、すべて元に戻すこともできます</translation>
     </message>
 </context>
 <context>
@@ -1764,11 +1764,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>There is a new version available!</source>
-        <translation>新しいバージョンがあります!</translation>
+        <translation>新しいバージョンがあります！</translation>
     </message>
     <message>
         <source>Would you like to download it now?</source>
-        <translation>今すぐダウンロードしますか?</translation>
+        <translation>今すぐダウンロードしますか？</translation>
     </message>
     <message>
         <source>Download</source>
@@ -1780,7 +1780,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>What&apos;s new?</source>
-        <translation>新機能は?</translation>
+        <translation>新機能は？</translation>
     </message>
     <message>
         <source>Skip Version</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation>Dodaj katalog</translation>
+        <translation>Dodaj folder</translation>
     </message>
     <message>
         <source>Add files</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Add folder…</source>
-        <translation>Dodaj katalog…</translation>
+        <translation>Dodaj folder…</translation>
     </message>
 </context>
 <context>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>New names so far: %1 of %2. Put everything back, or keep what is done?</source>
-        <translation>Nowe nazwy dotychczas: %1 z %2. Przywrócić wszystko czy zachować zrobione?</translation>
+        <translation>Nowe nazwy dotychczas: %1 z %2. Przywrócić wszystko czy zachować zmienione?</translation>
     </message>
     <message>
         <source>Put everything back</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>Keep what is done</source>
-        <translation>Zachowaj zrobione</translation>
+        <translation>Zachowaj zmienione</translation>
     </message>
     <message>
         <source>Kept</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Zmień możliwe</translation>
+        <translation>Zmień, co można</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -65,7 +65,7 @@
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Nie zmieniono żadnej nazwy: jeden plik zawiódł, a pozostałe mają znów dawne nazwy.</translation>
+        <translation>Nie zmieniono żadnej nazwy: przy jednym pliku się to nie udało, a pozostałe mają znów dawne nazwy.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
@@ -73,7 +73,7 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>Nie można było przywrócić całego przebiegu; pliki bez dawnej nazwy: %1</translation>
+        <translation>Nie udało się przywrócić wszystkiego; pliki bez dawnej nazwy: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>Nie można przywrócić pliku &apos;%1&apos;: nazywa się &apos;%2&apos;</translation>
+        <translation>Nie udało się przywrócić nazwy pliku &apos;%1&apos;: nazywa się &apos;%2&apos;</translation>
     </message>
 </context>
 <context>
@@ -399,11 +399,11 @@
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot</source>
-        <translation>%1 – nowa nazwa: %2, %3, niemożliwe: %4</translation>
+        <translation>%1 – do zmiany: %2, %3, niemożliwe: %4</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
-        <translation>%1 – nowa nazwa: %2, %3, niemożliwe: %4, nieznane: %5</translation>
+        <translation>%1 – do zmiany: %2, %3, niemożliwe: %4, nieznane: %5</translation>
     </message>
     <message>
         <source>Keeps its name.</source>
@@ -634,7 +634,7 @@
     </message>
     <message>
         <source>Add files and folders</source>
-        <translation>Dodaj pliki i katalogi</translation>
+        <translation>Dodaj pliki i foldery</translation>
     </message>
     <message>
         <source>Sort the files</source>
@@ -685,7 +685,7 @@
     </message>
     <message>
         <source>Folder</source>
-        <translation>Katalog</translation>
+        <translation>Folder</translation>
     </message>
     <message>
         <source>File</source>
@@ -752,7 +752,7 @@
     </message>
     <message>
         <source>&amp;New Folder</source>
-        <translation>&amp;Nowy katalog</translation>
+        <translation>&amp;Nowy folder</translation>
     </message>
     <message>
         <source>&amp;Open</source>
@@ -784,11 +784,11 @@
     </message>
     <message>
         <source>Create New Folder</source>
-        <translation>Utwórz nowy katalog</translation>
+        <translation>Utwórz nowy folder</translation>
     </message>
     <message>
         <source>Create a New Folder</source>
-        <translation>Utwórz nowy katalog</translation>
+        <translation>Utwórz nowy folder</translation>
     </message>
     <message>
         <source>Detail View</source>
@@ -820,7 +820,7 @@
     </message>
     <message>
         <source>Go to the parent directory</source>
-        <translation>Przejdź do katalogu nadrzędnego</translation>
+        <translation>Przejdź do folderu nadrzędnego</translation>
     </message>
     <message>
         <source>List View</source>
@@ -836,11 +836,11 @@
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation>Katalog nadrzędny</translation>
+        <translation>Folder nadrzędny</translation>
     </message>
     <message>
         <source>Show &amp;hidden files</source>
-        <translation>Pokaż &amp;ukryte pliki</translation>
+        <translation>Pokaż u&amp;kryte pliki</translation>
     </message>
     <message>
         <source>Sidebar</source>
@@ -848,7 +848,7 @@
     </message>
     <message>
         <source>Directory:</source>
-        <translation>Katalog:</translation>
+        <translation>Folder:</translation>
     </message>
     <message>
         <source>%1 already exists.
@@ -874,14 +874,14 @@ Sprawdź nazwę pliku.</translation>
     </message>
     <message>
         <source>Directories</source>
-        <translation>Katalogi</translation>
+        <translation>Foldery</translation>
     </message>
     <message>
         <source>%1
 Directory not found.
 Please verify the correct directory name was given.</source>
         <translation>%1
-Nie znaleziono katalogu.
+Nie znaleziono folderu.
 Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
 </context>
@@ -1265,7 +1265,7 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>too large</source>
-        <translation>za duże</translation>
+        <translation>plik jest za duży</translation>
     </message>
     <message>
         <source>line %1 is no JSON</source>
@@ -1476,18 +1476,18 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>a group: \1 in the new text is what it found</source>
-        <translation>grupa: \1 w nowym tekście to, co znalazła</translation>
+        <translation>grupa: \1 w nowym tekście oznacza to, co znalazła</translation>
     </message>
 </context>
 <context>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Cofanie zostało przerwane; resztę nadal można przywrócić</translation>
+        <translation>Cofanie zostało przerwane; resztę nadal można cofnąć</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>Przebieg z %1 został przerwany; zmienione nazwy można przywrócić</translation>
+        <translation>Przebieg z %1 został przerwany; jego zmiany nazw można cofnąć</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1503,11 +1503,11 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Przywróć 1 nazwę zmienioną o %1, folder %2</translation>
+        <translation>Cofnij 1 zmianę nazwy z %1, folder %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Przywróć zmienione nazwy (%1) z %2, folder %3</translation>
+        <translation>Cofnij zmiany nazw (%1) z %2, folder %3</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>Z tego przebiegu nie ma już nic do przywrócenia.</translation>
+        <translation>Z tego przebiegu nie ma już nic do cofnięcia.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Rozpoczęto przywracanie nazw</translation>
+        <translation>Rozpoczęto cofanie zmian nazw</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Nie można przywrócić pliku &apos;%1&apos;: %2</translation>
+        <translation>Nie udało się cofnąć zmiany nazwy pliku &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Przywróć zmienione nazwy (%1) z %2, foldery: %3</translation>
+        <translation>Cofnij zmiany nazw (%1) z %2, foldery: %3</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1579,7 +1579,7 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>complete</source>
-        <translation>pełny</translation>
+        <translation>ukończony</translation>
     </message>
     <message>
         <source>cancelled</source>
@@ -1607,7 +1607,7 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>%1, touched by a later run</source>
-        <translation>%1, zmienione przez późniejszy przebieg</translation>
+        <translation>%1, zmieniony przez późniejszy przebieg</translation>
     </message>
     <message>
         <source>The run of %1 renamed some of these files. Take that one back first.</source>
@@ -1671,11 +1671,11 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Ten przebieg został przerwany; „Przebiegi…” może go też dokończyć</translation>
+        <translation>Ten przebieg został przerwany; poleceniem „Przebiegi…” można go też dokończyć</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Ten przebieg miał zmienić nazwy wszystkich plików albo żadnego i został przerwany. Można go dokończyć, przywrócić wszystko albo zostawić pliki tak, jak są.</translation>
+        <translation>Ten przebieg miał zmienić nazwy wszystkich plików albo żadnego i został przerwany. Można go dokończyć, przywrócić wszystko albo zostawić pliki takie, jakie są.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1695,7 +1695,7 @@ Sprawdź, czy nazwa jest poprawna.</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>Przebieg z %1 został przerwany; „Przebiegi…” może go dokończyć lub przywrócić</translation>
+        <translation>Przebieg z %1 został przerwany; poleceniem „Przebiegi…” można go dokończyć lub przywrócić wszystko</translation>
     </message>
 </context>
 <context>

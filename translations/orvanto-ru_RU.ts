@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Переименовать возможные</translation>
+        <translation>Переименовать что можно</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -65,15 +65,15 @@
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Ничего не переименовано: с одним файлом не удалось, остальные снова имеют прежние имена.</translation>
+        <translation>Ничего не переименовано: один файл переименовать не удалось, остальные снова имеют прежние имена.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
-        <translation>Ничего не переименовано: запуск отменён.</translation>
+        <translation>Ничего не переименовано: запуск остановлен.</translation>
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>Не удалось вернуть запуск целиком; файлы без прежних имён: %1</translation>
+        <translation>Не удалось вернуть всё; файлы без прежних имён: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -399,11 +399,11 @@
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot</source>
-        <translation>%1; новое имя: %2, %3, невозможно: %4</translation>
+        <translation>%1; изменится: %2, %3, невозможно: %4</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
-        <translation>%1; новое имя: %2, %3, невозможно: %4, неизвестно: %5</translation>
+        <translation>%1; изменится: %2, %3, невозможно: %4, неизвестно: %5</translation>
     </message>
     <message>
         <source>Keeps its name.</source>
@@ -1226,7 +1226,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Name of the rule set</source>
-        <translation>Название набора правил</translation>
+        <translation>Имя набора правил</translation>
     </message>
     <message>
         <source>Save</source>
@@ -1416,7 +1416,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Upper and lower case differ; as much as possible is found.</source>
-        <translation>Заглавные и строчные буквы различаются; находится как можно больше.</translation>
+        <translation>Прописные и строчные буквы различаются; находится как можно более длинный фрагмент.</translation>
     </message>
     <message>
         <source>any character</source>
@@ -1487,7 +1487,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>Запуск %1 был прерван; изменённые имена можно вернуть</translation>
+        <translation>Запуск %1 был прерван; прежние имена можно вернуть</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1583,7 +1583,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>cancelled</source>
-        <translation>прерван вами</translation>
+        <translation>остановлен вами</translation>
     </message>
     <message>
         <source>interrupted</source>
@@ -1671,7 +1671,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Этот запуск был прерван; «Запуски…» может и завершить его</translation>
+        <translation>Этот запуск был прерван; через «Запуски…» его можно и завершить</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
@@ -1695,7 +1695,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>Запуск %1 был прерван; «Запуски…» может завершить его или вернуть всё</translation>
+        <translation>Запуск %1 был прерван; через «Запуски…» можно завершить его или вернуть всё</translation>
     </message>
 </context>
 <context>

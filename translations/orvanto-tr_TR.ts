@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>All or nothing: a run renames every file of the list, or none</source>
-        <translation>Ya hep ya hiç: bir çalıştırma listedeki tüm dosyaları yeniden adlandırır ya da hiçbirini</translation>
+        <translation>Ya hep ya hiç: bir çalıştırma listedeki dosyaların ya tümünü yeniden adlandırır ya da hiçbirini adlandırmaz</translation>
     </message>
     <message>
         <source>%1: nothing will be renamed, as %2 cannot be</source>
@@ -57,15 +57,15 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Olanları yeniden adlandır</translation>
+        <translation>Mümkün olanları adlandır</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
-        <translation>Her dosya adlandırılamadığı için hiçbiri yeniden adlandırılmadı.</translation>
+        <translation>Bazı dosyalar adlandırılamadığı için hiçbiri yeniden adlandırılmadı.</translation>
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Hiçbiri yeniden adlandırılmadı: bir dosya başarısız oldu, ötekiler yine eski adlarını taşıyor.</translation>
+        <translation>Hiçbiri yeniden adlandırılmadı: bir dosya adlandırılamadı, ötekiler yine eski adlarını taşıyor.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>The run is not finished yet.</source>
-        <translation>Çalıştırma henüz bitmedi.</translation>
+        <translation>Çalıştırma henüz tamamlanmadı.</translation>
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
@@ -199,11 +199,11 @@
     </message>
     <message>
         <source>Application Directory</source>
-        <translation>Uygulama Dizini</translation>
+        <translation>Uygulama Klasörü</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation>Uygulama Veri Dizini</translation>
+        <translation>Uygulama Veri Klasörü</translation>
     </message>
     <message>
         <source>Visit our website</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>&quot;Title - Artist&quot; for &quot;Artist - Title&quot;</source>
-        <translation>&quot;Sanatçı - Parça&quot; yerine &quot;Parça - Sanatçı&quot;</translation>
+        <translation>“Sanatçı - Parça” yerine “Parça - Sanatçı”</translation>
     </message>
 </context>
 <context>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>another file has its name</source>
-        <translation>adı başka bir dosyada</translation>
+        <translation>adını başka bir dosya taşıyor</translation>
     </message>
 </context>
 <context>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>Open log directory</source>
-        <translation>Günlük dizinini aç</translation>
+        <translation>Günlük klasörünü aç</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -1210,11 +1210,11 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     </message>
     <message>
         <source>There is a rule set &quot;%1&quot; already. Replace it?</source>
-        <translation>&quot;%1&quot; adlı bir kural kümesi zaten var. Değiştirilsin mi?</translation>
+        <translation>“%1” adlı bir kural kümesi zaten var. Değiştirilsin mi?</translation>
     </message>
     <message>
         <source>Delete the rule set &quot;%1&quot;?</source>
-        <translation>&quot;%1&quot; kural kümesi silinsin mi?</translation>
+        <translation>“%1” kural kümesi silinsin mi?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1416,7 +1416,7 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     </message>
     <message>
         <source>Upper and lower case differ; as much as possible is found.</source>
-        <translation>Büyük ve küçük harfler ayırt edilir; olabildiğince çok bulunur.</translation>
+        <translation>Büyük ve küçük harfler ayırt edilir; olabildiğince uzun bir bölüm bulunur.</translation>
     </message>
     <message>
         <source>any character</source>
@@ -1483,11 +1483,11 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>Bir geri alma işlemi kesildi; kalanlar hâlâ geri alınabilir</translation>
+        <translation>Bir geri alma işlemi yarıda kesildi; kalanlar hâlâ geri alınabilir</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>%1 çalıştırması kesildi; değiştirdiği adlar geri alınabilir</translation>
+        <translation>%1 çalıştırması yarıda kesildi; değiştirdiği adlar geri alınabilir</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1587,7 +1587,7 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     </message>
     <message>
         <source>interrupted</source>
-        <translation>kesildi</translation>
+        <translation>yarıda kesildi</translation>
     </message>
     <message>
         <source>in hand</source>
@@ -1671,11 +1671,11 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Bu çalıştırma kesildi; “Çalıştırmalar…” onu bitirebilir de</translation>
+        <translation>Bu çalıştırma yarıda kesildi; “Çalıştırmalar…” ile tamamlanabilir de</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>Bu çalıştırma tüm dosyaları ya da hiçbirini yeniden adlandıracaktı ve kesildi. Bitirin, her şeyi eski hâline getirin ya da dosyaları oldukları gibi bırakın.</translation>
+        <translation>Bu çalıştırma dosyaların ya tümünü yeniden adlandıracak ya da hiçbirini adlandırmayacaktı, ama yarıda kesildi. Tamamlayın, her şeyi eski hâline getirin ya da dosyaları oldukları gibi bırakın.</translation>
     </message>
     <message>
         <source>Put back</source>
@@ -1683,19 +1683,19 @@ Lütfen adın doğru olup olmadığını denetleyin.</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>Bitir</translation>
+        <translation>Tamamla</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation>Bırak</translation>
+        <translation>Olduğu gibi bırak</translation>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>Bir çalıştırmayı bitirme başladı</translation>
+        <translation>Bir çalıştırmanın tamamlanmasına başlandı</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>%1 çalıştırması kesildi; “Çalıştırmalar…” onu bitirebilir ya da eski hâline getirebilir</translation>
+        <translation>%1 çalıştırması yarıda kesildi; “Çalıştırmalar…” ile tamamlanabilir ya da her şey eski hâline getirilebilir</translation>
     </message>
 </context>
 <context>

@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>Перейменувати можливі</translation>
+        <translation>Перейменувати що можна</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -65,15 +65,15 @@
     </message>
     <message>
         <source>Nothing was renamed: one file failed, and the others have their old names again.</source>
-        <translation>Нічого не перейменовано: з одним файлом не вдалося, решта знову має старі назви.</translation>
+        <translation>Нічого не перейменовано: один файл перейменувати не вдалося, решта знову має старі назви.</translation>
     </message>
     <message>
         <source>Nothing was renamed: the run was cancelled.</source>
-        <translation>Нічого не перейменовано: запуск скасовано.</translation>
+        <translation>Нічого не перейменовано: запуск зупинено.</translation>
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>Не вдалося повернути запуск повністю; файли без старих назв: %1</translation>
+        <translation>Не вдалося повернути все; файли без старих назв: %1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>Не вдалося повернути ім’я файлу &apos;%1&apos;: він називається &apos;%2&apos;</translation>
+        <translation>Не вдалося повернути назву файлу &apos;%1&apos;: він називається &apos;%2&apos;</translation>
     </message>
 </context>
 <context>
@@ -335,7 +335,7 @@
     </message>
     <message>
         <source>there is no such folder</source>
-        <translation>такої папки немає</translation>
+        <translation>такої теки немає</translation>
     </message>
     <message>
         <source>the file system does not take the new name</source>
@@ -347,7 +347,7 @@
     </message>
     <message>
         <source>nothing can be renamed in this folder</source>
-        <translation>у цій папці не можна перейменовувати</translation>
+        <translation>у цій теці не можна перейменовувати</translation>
     </message>
     <message>
         <source>the new name holds half a character</source>
@@ -399,11 +399,11 @@
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot</source>
-        <translation>%1; нова назва: %2, %3, неможливо: %4</translation>
+        <translation>%1; зміниться: %2, %3, неможливо: %4</translation>
     </message>
     <message>
         <source>%1: %2 will be renamed, %3, %4 cannot, %5 unknown</source>
-        <translation>%1; нова назва: %2, %3, неможливо: %4, невідомо: %5</translation>
+        <translation>%1; зміниться: %2, %3, неможливо: %4, невідомо: %5</translation>
     </message>
     <message>
         <source>Keeps its name.</source>
@@ -419,11 +419,11 @@
     </message>
     <message>
         <source>Moves to the folder %1.</source>
-        <translation>Буде переміщено до папки %1.</translation>
+        <translation>Буде переміщено до теки %1.</translation>
     </message>
     <message>
         <source>The new name leads to the folder %1.</source>
-        <translation>Нова назва веде до папки %1.</translation>
+        <translation>Нова назва веде до теки %1.</translation>
     </message>
     <message>
         <source>Not renamed: %1.</source>
@@ -447,7 +447,7 @@
     </message>
     <message>
         <source>Folder</source>
-        <translation>Папка</translation>
+        <translation>Тека</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -459,7 +459,7 @@
     </message>
     <message>
         <source>another file has its name</source>
-        <translation>його ім’я має інший файл</translation>
+        <translation>його назву має інший файл</translation>
     </message>
 </context>
 <context>
@@ -840,7 +840,7 @@
     </message>
     <message>
         <source>Show &amp;hidden files</source>
-        <translation>Показувати &amp;приховані файли</translation>
+        <translation>Показувати при&amp;ховані файли</translation>
     </message>
     <message>
         <source>Sidebar</source>
@@ -1416,7 +1416,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Upper and lower case differ; as much as possible is found.</source>
-        <translation>Великі й малі літери розрізняються; знаходиться якомога більше.</translation>
+        <translation>Великі й малі літери розрізняються; знаходиться якомога довший фрагмент.</translation>
     </message>
     <message>
         <source>any character</source>
@@ -1468,11 +1468,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>the beginning of the name</source>
-        <translation>початок імені</translation>
+        <translation>початок назви</translation>
     </message>
     <message>
         <source>the end of the name</source>
-        <translation>кінець імені</translation>
+        <translation>кінець назви</translation>
     </message>
     <message>
         <source>a group: \1 in the new text is what it found</source>
@@ -1487,7 +1487,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
-        <translation>Запуск %1 було перервано; змінені імена можна повернути</translation>
+        <translation>Запуск %1 було перервано; старі назви можна повернути</translation>
     </message>
     <message>
         <source>This run cannot be undone</source>
@@ -1503,11 +1503,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>Повернути 1 попереднє ім’я (запуск %1, тека %2)</translation>
+        <translation>Повернути 1 стару назву (запуск %1, тека %2)</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>Повернути попередні імена: %1 (запуск %2, тека %3)</translation>
+        <translation>Повернути старі назви: %1 (запуск %2, тека %3)</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1539,15 +1539,15 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>Повернення імен розпочато</translation>
+        <translation>Повернення назв розпочато</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>Не вдалося повернути ім’я файлу &apos;%1&apos;: %2</translation>
+        <translation>Не вдалося повернути назву файлу &apos;%1&apos;: %2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>Повернути попередні імена: %1 (запуск %2, тек: %3)</translation>
+        <translation>Повернути старі назви: %1 (запуск %2, тек: %3)</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1639,11 +1639,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Old name</source>
-        <translation>Старе ім’я</translation>
+        <translation>Стара назва</translation>
     </message>
     <message>
         <source>New name</source>
-        <translation>Нове ім’я</translation>
+        <translation>Нова назва</translation>
     </message>
     <message>
         <source>Now</source>
@@ -1651,11 +1651,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>has its new name</source>
-        <translation>має нове ім’я</translation>
+        <translation>має нову назву</translation>
     </message>
     <message>
         <source>has its old name</source>
-        <translation>має старе ім’я</translation>
+        <translation>має стару назву</translation>
     </message>
     <message>
         <source>another file is there</source>
@@ -1671,7 +1671,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>Цей запуск було перервано; «Запуски…» може й завершити його</translation>
+        <translation>Цей запуск було перервано; через «Запуски…» його можна й завершити</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
@@ -1695,7 +1695,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>Запуск %1 було перервано; «Запуски…» може завершити його або повернути все</translation>
+        <translation>Запуск %1 було перервано; через «Запуски…» можна завершити його або повернути все</translation>
     </message>
 </context>
 <context>

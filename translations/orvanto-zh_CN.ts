@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Rename what can be</source>
-        <translation>重命名可以改的</translation>
+        <translation>仅重命名可改名的文件</translation>
     </message>
     <message>
         <source>Nothing was renamed, as not every file can be.</source>
@@ -73,11 +73,11 @@
     </message>
     <message>
         <source>The run could not be put back as a whole; files that do not have their old names: %1</source>
-        <translation>无法恢复整个运行；未恢复原名的文件：%1</translation>
+        <translation>未能全部恢复；未恢复原名的文件：%1</translation>
     </message>
     <message>
         <source>Nothing was renamed: the journal of the run cannot be written.</source>
-        <translation>未重命名任何文件：无法写入运行的日志。</translation>
+        <translation>未重命名任何文件：无法写入运行记录。</translation>
     </message>
     <message>
         <source>The run is not finished yet.</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Could not put back file &apos;%1&apos;: it is called &apos;%2&apos;</source>
-        <translation>无法恢复文件 &apos;%1&apos;：它现在名为 &apos;%2&apos;</translation>
+        <translation>无法恢复文件 &apos;%1&apos; 的原名：它现在名为 &apos;%2&apos;</translation>
     </message>
 </context>
 <context>
@@ -199,11 +199,11 @@
     </message>
     <message>
         <source>Application Directory</source>
-        <translation>应用程序目录</translation>
+        <translation>应用程序文件夹</translation>
     </message>
     <message>
         <source>Application Data Directory</source>
-        <translation>应用程序数据目录</translation>
+        <translation>应用程序数据文件夹</translation>
     </message>
     <message>
         <source>Visit our website</source>
@@ -542,7 +542,7 @@
     </message>
     <message>
         <source>Open log directory</source>
-        <translation>打开日志目录</translation>
+        <translation>打开日志文件夹</translation>
     </message>
     <message>
         <source>Global Settings</source>
@@ -1155,7 +1155,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Save the active rules under a name, and take them up again</source>
-        <translation>以名称保存已启用的规则，以便再次使用</translation>
+        <translation>为已启用的规则命名并保存，以便再次使用</translation>
     </message>
     <message>
         <source>The rules were changed since.</source>
@@ -1483,7 +1483,7 @@ Please verify the correct directory name was given.</source>
     <name>Runs</name>
     <message>
         <source>An undo was interrupted; what it left can still be taken back</source>
-        <translation>一次撤销被中断；其余部分仍可恢复</translation>
+        <translation>一次撤销被中断；其余部分仍可继续撤销</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; what it renamed can be taken back</source>
@@ -1503,11 +1503,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Take back 1 rename of %1 in %2</source>
-        <translation>恢复 %1 在 %2 中的 1 次重命名</translation>
+        <translation>撤销 %1 在 %2 中的 1 次重命名</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3</source>
-        <translation>恢复 %2 在 %3 中的 %1 次重命名</translation>
+        <translation>撤销 %2 在 %3 中的 %1 次重命名</translation>
     </message>
     <message>
         <source>Another window of the program is at this run.</source>
@@ -1523,7 +1523,7 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Nothing of this run is left to be taken back.</source>
-        <translation>此次运行已没有可恢复的内容。</translation>
+        <translation>此次运行已没有可撤销的内容。</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1539,15 +1539,15 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Taking back started</source>
-        <translation>已开始恢复</translation>
+        <translation>已开始撤销</translation>
     </message>
     <message>
         <source>Could not take back file &apos;%1&apos;: %2</source>
-        <translation>无法恢复文件 &apos;%1&apos;：%2</translation>
+        <translation>无法恢复文件 &apos;%1&apos; 的原名：%2</translation>
     </message>
     <message>
         <source>Take back %1 renames of %2 in %3 folders</source>
-        <translation>恢复 %2 在 %3 个文件夹中的 %1 次重命名</translation>
+        <translation>撤销 %2 在 %3 个文件夹中的 %1 次重命名</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -1671,19 +1671,19 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>This run was interrupted; &quot;Runs…&quot; can finish it, too</source>
-        <translation>此次运行被中断；“运行记录…”也可以完成它</translation>
+        <translation>此次运行被中断；也可通过“运行记录…”继续完成</translation>
     </message>
     <message>
         <source>This run was to rename all files or none, and was interrupted. Finish it, put everything back, or leave the files as they are.</source>
-        <translation>此次运行本应重命名所有文件或一个也不改，但被中断。请完成它、全部恢复，或让文件保持现状。</translation>
+        <translation>此次运行本应重命名所有文件或一个也不改，但被中断。请继续完成、全部恢复，或让文件保持现状。</translation>
     </message>
     <message>
         <source>Put back</source>
-        <translation>恢复</translation>
+        <translation>全部恢复</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation>完成</translation>
+        <translation>继续完成</translation>
     </message>
     <message>
         <source>Leave</source>
@@ -1691,11 +1691,11 @@ Please verify the correct directory name was given.</source>
     </message>
     <message>
         <source>Finishing a run started</source>
-        <translation>已开始完成一次运行</translation>
+        <translation>已开始继续完成被中断的运行</translation>
     </message>
     <message>
         <source>The run of %1 was interrupted; &quot;Runs…&quot; can finish it or put it back</source>
-        <translation>%1 的运行被中断；“运行记录…”可以完成或恢复它</translation>
+        <translation>%1 的运行被中断；可通过“运行记录…”继续完成或全部恢复</translation>
     </message>
 </context>
 <context>
