@@ -36,7 +36,11 @@ MENUS = {
     "a line edit's menu": ["QLineEdit"],
     "a spin box's menu": ["QLineEdit", "QAbstractSpinBox"],
     "a read-only text's menu": ["QWidgetTextControl"],
+    "the file dialog's menu": ["QFileDialog"],
 }
+
+# What else has a letter there stands outside its menu.
+FILE_DIALOG_MENU = {"&Rename", "&Delete", "Show &hidden files", "&New Folder"}
 
 # Labels of these languages go without a full stop.
 WITHOUT_FULL_STOP = {"ja_JP"}
@@ -123,7 +127,7 @@ def check_menus(code, found):
     for menu, contexts in MENUS.items():
         owner = {}
         for context, source, _, message in found:
-            if context not in contexts:
+            if context not in contexts or (context == "QFileDialog" and source not in FILE_DIALOG_MENU):
                 continue
             text = message.findtext("translation") or ""
             for letter in mnemonics(text):
