@@ -8,7 +8,7 @@
 /// renames the rows that stand in a file as PlannedScene has them, all or none, or finishes the newest such
 /// run. With ORVANTO_VICTIM_STOPS set it stops itself just before.
 
-#include "fault/plannedscene.h"
+#include "support/plannedscene.h"
 #include "run/journalfolder.h"
 #include "run/journalleddisk.h"
 #include "run/renamerun.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fault/inject/systemfaults.h"
-#include "fault/plannedscene.h"
+#include "support/plannedscene.h"
 #include "support/journalfiles.h"
 
 #include <QTest>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "fault/mountedkind.h"
-#include "fault/plannedscene.h"
+#include "support/plannedscene.h"
 #include "run/systemdisk.h"
 #include "support/temptree.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "fault/plannedscene.h"
+#include "support/plannedscene.h"
 #include "fault/victim.h"
 #include "run/systemdisk.h"
 #include "support/environment.h"

@@ -24,6 +24,11 @@ QString toldOf(const FileStamp &file)
     return u"%1 %2 %3 %4"_s.arg(file.volume).arg(file.number).arg(file.size).arg(file.modified);
 }
 
+QString toldOfHalf(int half)
+{
+    return half == 0 ? QString() : u", half %1"_s.arg(half);
+}
+
 /// Everything that a line says.
 QString toldOf(const JournalLine &line)
 {
@@ -37,11 +42,11 @@ QString toldOf(const JournalLine &line)
     if (const auto *entry = std::get_if<JournalEntry>(&line))
         return u"entry %1 of %2 "_s.arg(entry->number).arg(entry->takesBack) +
                u"%1|%2|%3|%4"_s.arg(entry->folder, entry->from, entry->to, toldOf(entry->file)) +
-               (entry->other ? u"|%1"_s.arg(toldOf(*entry->other)) : QString());
+               (entry->other ? u"|%1"_s.arg(toldOf(*entry->other)) : QString()) + toldOfHalf(entry->half);
     if (const auto *back = std::get_if<JournalBack>(&line))
         return u"back %1, files %2"_s.arg(back->number).arg(back->files);
     if (const auto *kept = std::get_if<JournalKept>(&line))
-        return u"kept %1, files %2"_s.arg(kept->takesBack).arg(kept->files);
+        return u"kept %1, files %2"_s.arg(kept->takesBack).arg(kept->files) + toldOfHalf(kept->half);
     if (const auto *told = std::get_if<JournalFigures>(&line))
         return u"figures %1: %2 %3 %4 %5 %6"_s.arg(static_cast<int>(told->state))
             .arg(told->renamed)
@@ -128,6 +133,16 @@ void TestPlannedLines::comeBackAsTheyWere_data()
         << toJson(exchange)
         << R"({"kind":"exchange","n":0,"of":8,"folder":"/d","from":"a","to":"b","volume":"9c1f","file":"5","other":"18446744073709551615"})"_ba
         << u"entry 0 of 8 /d|a|b|9c1f 5 0 0|9c1f 18446744073709551615 0 0"_s;
+    JournalEntry half{
+        .number = 4, .takesBack = 8, .folder = u"/d"_s, .from = u"b"_s, .to = u"a"_s, .file = file};
+    half.half = 2;
+    QTest::newRow("one file of an exchange taken back")
+        << toJson(half)
+        << R"({"kind":"rename","n":4,"of":8,"half":2,"folder":"/d","from":"b","to":"a","volume":"9c1f","file":"5"})"_ba
+        << u"entry 4 of 8 /d|b|a|9c1f 5 0 0, half 2"_s;
+    QTest::newRow("one of both was back")
+        << toJson(JournalKept{.takesBack = 0, .half = 1}) << R"({"kind":"kept","of":0,"half":1})"_ba
+        << u"kept 0, files 1, half 1"_s;
     QTest::newRow("taken back by the run")
         << toJson(JournalBack{.number = 3}) << R"({"kind":"back","n":3})"_ba << u"back 3, files 1"_s;
     QTest::newRow("exchange taken back by the run")
