@@ -8,12 +8,12 @@
 /// renames the rows that stand in a file as PlannedScene has them, all or none, or finishes the newest such
 /// run. With ORVANTO_VICTIM_STOPS set it stops itself just before.
 
-#include "support/plannedscene.h"
 #include "run/journalfolder.h"
 #include "run/journalleddisk.h"
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
 #include "run/undorun.h"
+#include "support/plannedscene.h"
 
 #include <QCoreApplication>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fault/inject/systemfaults.h"
-#include "support/plannedscene.h"
 #include "support/journalfiles.h"
+#include "support/plannedscene.h"
 
 #include <QTest>
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "fault/mountedkind.h"
-#include "support/plannedscene.h"
 #include "run/systemdisk.h"
+#include "support/plannedscene.h"
 #include "support/temptree.h"
 
 #include <QTest>

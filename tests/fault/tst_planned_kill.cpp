@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Kavrondel
 // SPDX-License-Identifier: MIT
 
-#include "support/plannedscene.h"
 #include "fault/victim.h"
 #include "run/systemdisk.h"
 #include "support/environment.h"
+#include "support/plannedscene.h"
 #include "support/temptree.h"
 
 #include <QElapsedTimer>

@@ -301,7 +301,8 @@ void TestShellUndo::filesOfARingAreCounted()
     QVERIFY(QFile::remove(folder.path(u"a"_s)));
     ended = shell.run({u"undo"_s, u"--yes"_s});
     QCOMPARE(ended.code, ExitCode::SomeFailed);
-    QVERIFY2(ended.trouble.contains("taken back: 2 of 3 files have their old names\n"), ended.trouble.constData());
+    QVERIFY2(ended.trouble.contains("taken back: 2 of 3 files have their old names\n"),
+             ended.trouble.constData());
     QCOMPARE(folder.names(), (QStringList{u"a"_s, u"b"_s}));
     // What is lost is told again, and the list of runs tells that something stands.
     for (int again = 0; again < 2; ++again) {
@@ -311,7 +312,8 @@ void TestShellUndo::filesOfARingAreCounted()
     }
     QVERIFY(shell.run({u"history"_s}).out.contains("partly taken back"));
     ended = shell.run({u"undo"_s, u"--yes"_s});
-    QVERIFY2(ended.trouble.contains("taken back: 0 of 1 file have their old names\n"), ended.trouble.constData());
+    QVERIFY2(ended.trouble.contains("taken back: 0 of 1 file have their old names\n"),
+             ended.trouble.constData());
 }
 
 QTEST_GUILESS_MAIN(TestShellUndo)
