@@ -20,10 +20,14 @@ bool TakenBackRun::takeAllBack(UndoRun &run)
         if (!step)
             break;
         ++(step->isDone() ? doneSteps : failedSteps);
+        if (countsFiles)
+            files.add(*step);
         print(*step);
         progress.show("Taken back", doneSteps + failedSteps, run.total());
     }
     progress.clear();
+    while (const auto step = countsFiles ? run.skip() : std::nullopt)
+        files.add(*step);
     run.end(!isComplete);
     if (!run.journalError().isEmpty())
         shell.tell(u"this undo cannot be taken back itself, at least in part (%1)"_s.arg(run.journalError()));

@@ -92,15 +92,13 @@ ExitCode undo(const CommandLine &line, const Shell &shell)
         shell.tell(refusalInWords(begun.refusal));
         return exitCodeOfRefusal(begun.refusal);
     }
-    TakenBackRun taking(shell, line.form);
+    // A planned run may rename a file more than once, and so may a redo of one.
+    TakenBackRun taking(shell, line.form, chosen->planned > 0 || !chosen->isRun());
     const bool isComplete = taking.takeAllBack(*begun.run);
     if (!isComplete || line.form == OutputForm::Text) {
-        // A planned run may rename a file more than once.
-        const bool isAll = isComplete && taking.done() == chosen->renamed;
-        shell.tell(u"%1: %2 of %3 have their old names"_s.arg(
-            isComplete ? u"taken back"_s : u"interrupted"_s,
-            QString::number(isAll ? chosen->files() : taking.done()),
-            filesInWords(isAll ? chosen->files() : begun.run->total())));
+        shell.tell(u"%1: %2 of %3 have their old names"_s.arg(isComplete ? u"taken back"_s : u"interrupted"_s,
+                                                              QString::number(taking.doneFiles()),
+                                                              filesInWords(taking.totalFiles(*begun.run))));
     }
     return isComplete ? exitCodeOf(taking.done(), taking.failed()) : ExitCode::Interrupted;
 }

@@ -44,10 +44,15 @@ void RunFilesModel::fetchMore(const QModelIndex & /*parent*/)
 {
     std::vector<Row> more;
     while (entries && more.size() < rowsAtATime) {
-        if (auto entry = entries->next())
-            more.push_back({std::move(*entry), {}});
-        else
+        auto entry = entries->next();
+        if (!entry) {
             entries.reset();
+            break;
+        }
+        auto other = entry->other ? std::optional(otherOf(*entry)) : std::nullopt;
+        more.push_back({std::move(*entry), {}});
+        if (other)
+            more.push_back({std::move(*other), {}});
     }
     if (more.empty())
         return;

@@ -149,7 +149,7 @@ std::optional<RenameResult> FileRenamer::exchange(const QString &one, const QStr
     const int error = errno;
     if (error == EINVAL || error == ENOSYS || error == EOPNOTSUPP)
         return std::nullopt;
-    if (isMissing(second))
+    if (isMissing(first) || isMissing(second))
         return RenameResult::SourceMissing;
     // Both are there, and are to be: it is the folder that takes nothing.
     return error == EACCES || error == EPERM || error == EROFS ? RenameResult::NotPermitted

@@ -245,22 +245,24 @@ bool JournalFolder::leave(const QString &name)
     return file.resize(end) && file.seek(end) && file.write(line) == line.size() && file.flush();
 }
 
-QSet<qint64> JournalFolder::takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const
+TakenBack JournalFolder::takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const
 {
-    QSet<qint64> numbers;
+    TakenBack found;
     for (const JournalInfo &journal : newestFirst) {
         if (journal.takesBack != name || journal.takesBack >= journal.name)
             continue;
-        const QSet<qint64> redone = takenBack(journal.name, newestFirst);
+        const TakenBack redone = takenBack(journal.name, newestFirst);
         QFile file(filePath(journal.name));
         if (!openShared(file, QIODevice::ReadOnly))
             continue;
         BackwardEntries entries(file);
-        while (const auto entry = entries.next()) {
-            if (!entries.isUncertain() && !redone.contains(entry->number))
-                numbers.insert(entry->takesBack);
+        while (auto entry = entries.next()) {
+            const auto standing = redone.standing(std::move(*entry));
+            if (!entries.isUncertain() && standing)
+                found.add(standing->entry.takesBack,
+                          standing->half != 0 ? standing->half : standing->entry.half);
         }
-        numbers.unite(entries.kept());
+        found.add(entries.kept());
     }
-    return numbers;
+    return found;
 }

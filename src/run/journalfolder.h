@@ -4,6 +4,7 @@
 #pragma once
 
 #include "run/journal.h"
+#include "run/takenback.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -132,8 +133,8 @@ public:
     bool forgetAll();
 
     [[nodiscard]] QString filePath(const QString &name) const { return path + u'/' + name; }
-    /// The numbers of a journal's entries that were taken back and not redone.
-    [[nodiscard]] QSet<qint64> takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const;
+    /// The entries of a journal that were taken back and not redone.
+    [[nodiscard]] TakenBack takenBack(const QString &name, const QList<JournalInfo> &newestFirst) const;
 
 private:
     /// Null when it cannot be locked: another process has it, or it cannot be written.

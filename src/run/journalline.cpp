@@ -60,6 +60,12 @@ void addFiles(JsonWriter &json, int files)
         add(json, R"(,"files":)", files);
 }
 
+void addHalf(JsonWriter &json, int half)
+{
+    if (half > 0)
+        add(json, R"(,"half":)", half);
+}
+
 std::optional<QDateTime> timeOf(const JsonObject &object)
 {
     const QDateTime time = QDateTime::fromString(object.text("time").value_or(QString()), Qt::ISODateWithMs);
@@ -116,13 +122,21 @@ std::optional<int> filesOf(const JsonObject &object)
     return files == 1 || files == 2 ? std::optional(static_cast<int>(files)) : std::nullopt;
 }
 
+/// Of an exchange that is taken back by one of its files.
+std::optional<int> halfOf(const JsonObject &object)
+{
+    const qint64 half = object.number("half").value_or(0);
+    return half >= 0 && half <= 2 ? std::optional(static_cast<int>(half)) : std::nullopt;
+}
+
 JournalLine entryOf(const JsonObject &object, bool isExchange)
 {
     const auto number = object.number("n");
+    const auto half = halfOf(object);
     auto folder = object.text("folder");
     auto from = object.text("from");
     auto to = object.text("to");
-    if (number.value_or(-1) < 0 || !folder || !from || !to || object.number("of").value_or(0) < 0)
+    if (number.value_or(-1) < 0 || !folder || !from || !to || object.number("of").value_or(0) < 0 || !half)
         return {};
     FileStamp file = stampOf(object);
     std::optional<FileStamp> other;
@@ -138,7 +152,8 @@ JournalLine entryOf(const JsonObject &object, bool isExchange)
                         .from = std::move(*from),
                         .to = std::move(*to),
                         .file = std::move(file),
-                        .other = std::move(other)};
+                        .other = std::move(other),
+                        .half = *half};
 }
 
 JournalLine figuresOf(const JsonObject &object)
@@ -164,6 +179,16 @@ JournalLine figuresOf(const JsonObject &object)
 }
 
 } // namespace
+
+JournalEntry otherOf(const JournalEntry &exchange)
+{
+    return {.number = exchange.number,
+            .takesBack = exchange.takesBack,
+            .folder = exchange.folder,
+            .from = exchange.to,
+            .to = exchange.from,
+            .file = exchange.other.value_or(FileStamp())};
+}
 
 QByteArray toJson(const JournalHeader &header)
 {
@@ -227,6 +252,7 @@ char *writeJson(const JournalEntryView &entry, QByteArrayView folder, char *memo
     add(json, R"(,"n":)", entry.number);
     if (entry.takesBack >= 0)
         add(json, R"(,"of":)", entry.takesBack);
+    addHalf(json, entry.half);
     json.raw(R"(,"folder":)");
     json.raw(folder);
     add(json, R"(,"from":)", entry.from);
@@ -249,7 +275,8 @@ QByteArray toJson(const JournalEntry &entry)
                                 entry.from,
                                 entry.to,
                                 entry.file,
-                                entry.other ? &*entry.other : nullptr};
+                                entry.other ? &*entry.other : nullptr,
+                                entry.half};
     QByteArray bytes(mostBytes(view), Qt::Uninitialized);
     bytes.truncate(writeJson(view, folderJson(entry.folder), bytes.data()) - bytes.data());
     return bytes;
@@ -267,6 +294,7 @@ QByteArray toJson(const JournalKept &kept)
 {
     return line(0, [&](JsonWriter &json) {
         add(json, R"({"kind":"kept","of":)", kept.takesBack);
+        addHalf(json, kept.half);
         addFiles(json, kept.files);
     });
 }
@@ -316,8 +344,9 @@ JournalLine fromJson(QByteArrayView line)
         return JournalRefusal{.number = number, .reason = object->text("why").value_or(QString())};
     const qint64 takesBack = object->number("of").value_or(-1);
     const auto files = filesOf(*object);
-    if (object->has("kind", "kept") && takesBack >= 0 && files)
-        return JournalKept{.takesBack = takesBack, .files = *files};
+    const auto half = halfOf(*object);
+    if (object->has("kind", "kept") && takesBack >= 0 && files && half)
+        return JournalKept{.takesBack = takesBack, .files = *files, .half = *half};
     if (object->has("kind", "back") && number >= 0 && files)
         return JournalBack{.number = number, .files = *files};
     if (object->has("kind", "end") || object->has("kind", "so far"))

@@ -55,10 +55,15 @@ struct JournalEntry
     FileStamp file;
     /// Of an exchange the file that goes from "folder/to" to "folder/from" at once.
     std::optional<FileStamp> other = std::nullopt;
+    /// Which file of an exchange an undo takes back alone: 1 for its file, 2 for the other; otherwise 0.
+    int half = 0;
 
     /// How many files the entry moves.
     [[nodiscard]] int files() const { return other ? 2 : 1; }
 };
+
+/// Of an exchange what becomes of the other file, as a rename of its own.
+[[nodiscard]] JournalEntry otherOf(const JournalEntry &exchange);
 
 /// A row of a planned run, all of which are written before the first is renamed: its file and what it shall
 /// be called. Where there is no folder or no volume it is that of the row before.
@@ -100,6 +105,7 @@ struct JournalEntryView
     const FileStamp &file;
     /// See JournalEntry; null where there is none.
     const FileStamp *other = nullptr;
+    int half = 0;
 
     [[nodiscard]] int files() const { return other ? 2 : 1; }
 };
@@ -111,11 +117,13 @@ struct JournalRefusal
     QString reason;
 };
 
-/// The file of the entry that was to be taken back had its old name already, or both of an exchange.
+/// The file of the entry that was to be taken back had its old name already, or both of an exchange, or one:
+/// see JournalEntry.
 struct JournalKept
 {
     qint64 takesBack = 0;
     int files = 1;
+    int half = 0;
 };
 
 /// What came of the run by then: from time to time, and as the last line of a run that came to its end.

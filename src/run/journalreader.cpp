@@ -78,7 +78,7 @@ std::optional<JournalEntry> BackwardEntries::next()
         } else if (const auto *back = std::get_if<JournalBack>(&read)) {
             undone.insert(back->number);
         } else if (const auto *keptEntry = std::get_if<JournalKept>(&read)) {
-            keptNumbers.insert(keptEntry->takesBack);
+            keptEntries.add(keptEntry->takesBack, keptEntry->half);
         } else if (auto *entry = std::get_if<JournalEntry>(&read)) {
             uncertain = std::exchange(isLast, false);
             if (!undone.remove(entry->number))

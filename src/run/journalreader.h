@@ -4,6 +4,7 @@
 #pragma once
 
 #include "run/journalline.h"
+#include "run/takenback.h"
 
 #include <QFile>
 #include <QSet>
@@ -44,8 +45,8 @@ public:
     /// The entry before; no value at the beginning. Those that were refused, or that a planned run took back
     /// itself, are passed over.
     [[nodiscard]] std::optional<JournalEntry> next();
-    /// The numbers of the entries that next() passed on its way which were found to be back already.
-    [[nodiscard]] const QSet<qint64> &kept() const { return keptNumbers; }
+    /// Those of the other journal that were found to be back already, as far as next() has come.
+    [[nodiscard]] const TakenBack &kept() const { return keptEntries; }
     /// Whether the entry given last is the last thing that the run told: it may have ended before it was
     /// renamed.
     [[nodiscard]] bool isUncertain() const { return uncertain; }
@@ -54,7 +55,7 @@ private:
     BackwardLines lines;
     /// Refused, or taken back by the run itself.
     QSet<qint64> undone;
-    QSet<qint64> keptNumbers;
+    TakenBack keptEntries;
     bool uncertain = false;
     bool isLast = true;
 };

@@ -40,11 +40,13 @@ QSet<size_t> JournalFolder::filesOf(const QString &name, const QList<JournalInfo
     QFile file(filePath(name));
     if (!openShared(file, QIODevice::ReadOnly))
         return keys;
-    const QSet<qint64> gone = takenBack(name, newestFirst);
+    const TakenBack gone = takenBack(name, newestFirst);
     BackwardEntries entries(file);
-    while (const auto entry = entries.next()) {
-        if (gone.contains(entry->number))
+    while (auto told = entries.next()) {
+        const auto standing = gone.standing(std::move(*told));
+        if (!standing)
             continue;
+        const JournalEntry *entry = &standing->entry;
         keys.insert(keyOf(entry->folder, entry->to));
         if (entry->file.number != 0)
             keys.insert(keyOf(entry->file));
@@ -70,12 +72,12 @@ QString JournalFolder::touchedBy(const QString &name) const
         QFile file(filePath(later.name));
         if (!openShared(file, QIODevice::ReadOnly))
             continue;
-        const QSet<qint64> gone = takenBack(later.name, newestFirst);
+        const TakenBack gone = takenBack(later.name, newestFirst);
         BackwardEntries entries(file);
-        while (const auto entry = entries.next()) {
-            const QList<size_t> keys = keysBefore(*entry);
-            if (!gone.contains(entry->number) &&
-                std::any_of(keys.begin(), keys.end(), [&](size_t key) { return files->contains(key); }))
+        while (auto entry = entries.next()) {
+            const auto standing = gone.standing(std::move(*entry));
+            const QList<size_t> keys = standing ? keysBefore(standing->entry) : QList<size_t>();
+            if (std::any_of(keys.begin(), keys.end(), [&](size_t key) { return files->contains(key); }))
                 return later.name;
         }
     }
@@ -100,15 +102,17 @@ QHash<QString, QString> JournalFolder::touchedRuns(const std::atomic<bool> &stop
         if (!counts(journal) || !openShared(file, QIODevice::ReadOnly))
             continue;
         const bool isOldest = --left == 0;
-        const QSet<qint64> gone = takenBack(journal.name, newestFirst);
+        const TakenBack gone = takenBack(journal.name, newestFirst);
         qsizetype newest = run;
         QList<size_t> keys;
         BackwardEntries entries(file);
-        while (const auto entry = entries.next()) {
+        while (auto told = entries.next()) {
             if (stop)
                 return {};
-            if (gone.contains(entry->number))
+            const auto standing = gone.standing(std::move(*told));
+            if (!standing)
                 continue;
+            const JournalEntry *entry = &standing->entry;
             newest = std::min(newest, renamedBy.value(keyOf(entry->folder, entry->to), run));
             if (entry->file.number != 0)
                 newest = std::min(newest, renamedBy.value(keyOf(entry->file), run));

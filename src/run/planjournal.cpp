@@ -29,10 +29,11 @@ struct Lines
     std::vector<JournalWish> wishes;
 };
 
-Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
+Lines linesOf(QFile &file, const TakenBack &takenBack, PlanJournal &told)
 {
     Lines found;
-    QSet<qint64> undone = takenBack;
+    // By the run itself, or refused.
+    QSet<qint64> undone;
     BackwardLines lines(file);
     while (const auto line = lines.next()) {
         JournalLine read = fromJson(*line);
@@ -44,8 +45,9 @@ Lines linesOf(QFile &file, const QSet<qint64> &takenBack, PlanJournal &told)
             undone.insert(back->number);
         } else if (auto *entry = std::get_if<JournalEntry>(&read)) {
             told.nextEntry = std::max(told.nextEntry, entry->number + 1);
-            if (!undone.contains(entry->number))
-                found.entries.push_back(std::move(*entry));
+            auto standing = takenBack.standing(std::move(*entry));
+            if (standing && !undone.contains(standing->entry.number))
+                found.entries.push_back(std::move(standing->entry));
         }
     }
     return found;
@@ -120,7 +122,7 @@ private:
 
 } // namespace
 
-std::optional<PlanJournal> PlanJournal::read(QFile &file, qint64 rowCount, const QSet<qint64> &takenBack)
+std::optional<PlanJournal> PlanJournal::read(QFile &file, qint64 rowCount, const TakenBack &takenBack)
 {
     PlanJournal told;
     told.size = endOfLines(file);

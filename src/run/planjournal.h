@@ -3,10 +3,9 @@
 
 #pragma once
 
-#include "run/journalline.h"
+#include "run/takenback.h"
 
 #include <QFile>
-#include <QSet>
 #include <QStringList>
 
 #include <optional>
@@ -35,5 +34,5 @@ struct PlanJournal
     /// Without the entries that were taken back. Nothing where rows are lost, or there are more or less than
     /// so many.
     [[nodiscard]] static std::optional<PlanJournal> read(QFile &file, qint64 rowCount,
-                                                         const QSet<qint64> &takenBack);
+                                                         const TakenBack &takenBack);
 };

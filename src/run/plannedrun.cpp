@@ -268,7 +268,7 @@ std::optional<Fate> PlannedRun::exchange(Move &move)
         }
     }
     const auto result = disk.exchange(place, target);
-    if (result == RenameResult::Done || (result == RenameResult::Other && isExchanged(move)))
+    if (result == RenameResult::Done || (result == RenameResult::Other && areAt(move, move.row, move.other)))
         return Fate::Renamed;
     const Fate fate = fateOf(result.value_or(RenameResult::Other));
     if (journal)
@@ -278,11 +278,11 @@ std::optional<Fate> PlannedRun::exchange(Move &move)
     return result || !isFirst ? std::optional(fate) : std::nullopt;
 }
 
-bool PlannedRun::isExchanged(const Move &move)
+bool PlannedRun::areAt(const Move &move, int rowAtTarget, int rowAtPlace)
 {
     const QDateTime later = QDateTime::currentDateTimeUtc();
-    return reader.isAt(plan.target(move.row), stampOf(move.row), later) &&
-           reader.isAt(plan.file(move.hub).path, stampOf(move.other), later);
+    return reader.isAt(plan.target(move.row), stampOf(rowAtTarget), later) &&
+           reader.isAt(plan.file(move.hub).path, stampOf(rowAtPlace), later);
 }
 
 bool PlannedRun::takeLastBack()
@@ -307,8 +307,7 @@ bool PlannedRun::takeLastBack()
 bool PlannedRun::makeBack(const Move &move)
 {
     if (move.leg == Leg::Exchange)
-        return isExchanged(move) &&
-               disk.exchange(plan.file(move.hub), plan.target(move.row)) == RenameResult::Done;
+        return exchangeBack(move);
     const QString from = after(move);
     const QString to = before(move);
     const FileStamp &stamp = stampOf(move.row);
@@ -316,6 +315,15 @@ bool PlannedRun::makeBack(const Move &move)
         return false;
     const RenameResult result = disk.rename(sibling(plan.file(move.row), from), to);
     return result == RenameResult::Done || isDone(result, move.row, from, to);
+}
+
+bool PlannedRun::exchangeBack(const Move &move)
+{
+    if (!areAt(move, move.row, move.other))
+        return false;
+    const auto result = disk.exchange(plan.file(move.hub), plan.target(move.row));
+    return result == RenameResult::Done ||
+           (result == RenameResult::Other && areAt(move, move.other, move.row));
 }
 
 QString PlannedRun::before(const Move &move) const

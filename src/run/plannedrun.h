@@ -112,13 +112,15 @@ private:
     [[nodiscard]] std::optional<Fate> make(Move &move);
     [[nodiscard]] Fate rename(Move &move, const FilePath &from, const QString &to);
     [[nodiscard]] std::optional<Fate> exchange(Move &move);
-    [[nodiscard]] bool isExchanged(const Move &move);
+    /// Whether the files of these rows are where an exchange puts them, or had them.
+    [[nodiscard]] bool areAt(const Move &move, int rowAtTarget, int rowAtPlace);
     /// How many rows get their new names by it.
     [[nodiscard]] int placedRows(size_t number) const;
     [[nodiscard]] bool isDone(RenameResult result, int row, const QString &from, const QString &to);
     void countThirdName(Leg leg, int by);
     bool takeLastBack();
     [[nodiscard]] bool makeBack(const Move &move);
+    [[nodiscard]] bool exchangeBack(const Move &move);
 
     [[nodiscard]] QString before(const Move &move) const;
     [[nodiscard]] QString after(const Move &move) const;

@@ -47,6 +47,22 @@ Fate fateOf(const UndoStep &step)
     Q_UNREACHABLE();
 }
 
+void UndoneFiles::add(const UndoStep &step)
+{
+    const auto keyOf = [&](const QString &path) {
+        return qHashMulti(0, path, step.file.volume, step.file.number);
+    };
+    const auto before = reached.constFind(keyOf(step.from));
+    if (before == reached.constEnd()) {
+        ++files;
+    } else {
+        doneFiles -= *before ? 1 : 0;
+        reached.erase(before);
+    }
+    doneFiles += step.isDone() ? 1 : 0;
+    reached.insert(keyOf(step.to), step.isDone());
+}
+
 namespace {
 
 const JournalInfo *find(const QList<JournalInfo> &journals, const QString &name)
@@ -132,49 +148,74 @@ std::optional<UndoStep> UndoRun::next()
 {
     if (const auto step = std::exchange(pending, std::nullopt))
         return step;
-    while (const auto entry = entries->next()) {
-        if (!gone.contains(entry->number))
-            return entry->other ? takeExchangeBack(*entry) : takeBack(*entry);
+    const auto standing = nextEntry();
+    if (!standing)
+        return std::nullopt;
+    return standing->entry.other ? takeExchangeBack(standing->entry) : takeBack(*standing);
+}
+
+std::optional<TakenBack::Standing> UndoRun::nextEntry()
+{
+    while (auto entry = entries->next()) {
+        if (auto standing = gone.standing(std::move(*entry)))
+            return standing;
     }
     return std::nullopt;
 }
 
 namespace {
 
-UndoStep stepOf(const JournalEntry &entry, const QString &from, const QString &to)
+/// Of its one file.
+UndoStep stepOf(const JournalEntry &entry)
 {
     UndoStep step;
-    step.from = entry.folder + u'/' + from;
-    step.to = entry.folder + u'/' + to;
+    step.from = entry.folder + u'/' + entry.to;
+    step.to = entry.folder + u'/' + entry.from;
     step.nameAt = entry.folder.size() + 1;
+    step.file = entry.file;
     return step;
 }
 
 } // namespace
 
-UndoStep UndoRun::takeBack(const JournalEntry &entry)
+std::optional<UndoStep> UndoRun::skip()
 {
-    UndoStep step = stepOf(entry, entry.to, entry.from);
+    if (const auto step = std::exchange(pending, std::nullopt))
+        return step;
+    const auto standing = nextEntry();
+    if (!standing)
+        return std::nullopt;
+    if (standing->entry.other)
+        pending = stepOf(otherOf(standing->entry));
+    return stepOf(standing->entry);
+}
+
+UndoStep UndoRun::takeBack(const TakenBack::Standing &standing)
+{
+    const JournalEntry &entry = standing.entry;
+    UndoStep step = stepOf(entry);
     if (stamps.isAt(step.from, entry.file, time)) {
-        step.result = move(entry, step);
+        step.result = move(standing, step);
     } else if (stamps.isAt(step.to, entry.file, time)) {
         step.result = UndoStep::Result::WasBack;
         if (journal)
-            journal->kept({.takesBack = entry.number});
+            journal->kept({.takesBack = entry.number, .half = standing.half});
     } else {
-        step.result = resultOfLost(step);
+        step.result = resultOfLost(standing, step);
     }
     return step;
 }
 
-UndoStep::Result UndoRun::move(const JournalEntry &entry, UndoStep &step)
+UndoStep::Result UndoRun::move(const TakenBack::Standing &standing, UndoStep &step)
 {
+    const JournalEntry &entry = standing.entry;
     if (journal)
         journal->renaming({.takesBack = entry.number,
                            .folder = entry.folder,
                            .from = entry.to,
                            .to = entry.from,
-                           .file = entry.file});
+                           .file = entry.file,
+                           .half = standing.half});
     const FilePath source{.path = step.from, .nameAt = step.nameAt};
     const RenameResult result = disk.rename(source, step.to);
     if (result == RenameResult::Done)
@@ -190,39 +231,54 @@ UndoStep::Result UndoRun::move(const JournalEntry &entry, UndoStep &step)
 /// Both files go back at once. Where only one of them is left, and the other's name is free, it goes alone.
 UndoStep UndoRun::takeExchangeBack(const JournalEntry &entry)
 {
-    const JournalEntry one{.number = entry.number,
-                           .folder = entry.folder,
-                           .from = entry.from,
-                           .to = entry.to,
-                           .file = entry.file};
-    const JournalEntry two{.number = entry.number,
-                           .folder = entry.folder,
-                           .from = entry.to,
-                           .to = entry.from,
-                           .file = *entry.other};
-    UndoStep step = stepOf(entry, one.to, one.from);
-    UndoStep other = stepOf(entry, two.to, two.from);
-    const bool isThere = stamps.isAt(step.from, one.file, time);
-    const bool isOtherThere = stamps.isAt(other.from, two.file, time);
+    const TakenBack::Standing one = TakenBack::halfOf(entry, 1);
+    const TakenBack::Standing two = TakenBack::halfOf(entry, 2);
+    UndoStep step = stepOf(one.entry);
+    UndoStep other = stepOf(two.entry);
+    const bool isThere = stamps.isAt(step.from, step.file, time);
+    const bool isOtherThere = stamps.isAt(other.from, other.file, time);
     if (isThere && isOtherThere) {
         step.result = exchange(entry, step);
         other.result = step.result;
         other.why = step.why;
-    } else if (stamps.isAt(step.to, one.file, time) && stamps.isAt(other.to, two.file, time)) {
+    } else if (stamps.isAt(step.to, step.file, time) && stamps.isAt(other.to, other.file, time)) {
         step.result = other.result = UndoStep::Result::WasBack;
         if (journal)
             journal->kept({.takesBack = entry.number, .files = 2});
     } else {
-        step.result = isThere ? move(one, step) : resultOfLost(step);
-        other.result = isOtherThere ? move(two, other) : resultOfLost(other);
+        step = takeBack(one);
+        other = takeBack(two);
     }
     pending = other;
     return step;
 }
 
-UndoStep::Result UndoRun::resultOfLost(const UndoStep &step) const
+/// Of a ring another file may have the name again that the lost one had last: nobody else took that.
+UndoStep::Result UndoRun::resultOfLost(const TakenBack::Standing &standing, const UndoStep &step)
 {
-    return disk.identity(step.from) ? UndoStep::Result::OtherFile : UndoStep::Result::Missing;
+    const bool isThere = disk.identity(step.from).has_value();
+    return isThere && (standing.half == 0 || !isExchanged(step.from)) ? UndoStep::Result::OtherFile
+                                                                      : UndoStep::Result::Missing;
+}
+
+bool UndoRun::isExchanged(const QString &path)
+{
+    if (!exchanged) {
+        exchanged.emplace();
+        QFile again(file.fileName());
+        if (!openShared(again, QIODevice::ReadOnly))
+            return false;
+        BackwardEntries told(again);
+        while (const auto entry = told.next()) {
+            if (entry->other) {
+                exchanged->insert(entry->file.number, entry->file);
+                exchanged->insert(entry->other->number, *entry->other);
+            }
+        }
+    }
+    const auto there = disk.identity(path);
+    const auto known = there ? exchanged->constFind(there->number) : exchanged->constEnd();
+    return known != exchanged->constEnd() && stamps.isAt(path, *known, time);
 }
 
 UndoStep::Result UndoRun::exchange(const JournalEntry &entry, UndoStep &step)

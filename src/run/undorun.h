@@ -9,7 +9,7 @@
 #include "run/outcome.h"
 
 #include <QFile>
-#include <QSet>
+#include <QHash>
 
 #include <memory>
 #include <optional>
@@ -39,6 +39,7 @@ struct UndoStep
     QString to;
     /// Where the names begin in both.
     qsizetype nameAt = 0;
+    FileStamp file = {};
 
     /// Whether nothing is left to do for this file.
     [[nodiscard]] bool isDone() const { return result == Result::TakenBack || result == Result::WasBack; }
@@ -48,6 +49,23 @@ struct UndoStep
 [[nodiscard]] QString idOf(UndoStep::Result result);
 /// The same as a run says it; Renamed where nothing is left to do.
 [[nodiscard]] Fate fateOf(const UndoStep &step);
+
+/// Counts the files of steps: one that a planned run moved more than once has as many.
+class UndoneFiles final
+{
+public:
+    void add(const UndoStep &step);
+
+    [[nodiscard]] qint64 total() const { return files; }
+    /// Those whose last step was done.
+    [[nodiscard]] qint64 done() const { return doneFiles; }
+
+private:
+    /// Whether the step was done that brings a file to a path.
+    QHash<size_t, bool> reached;
+    qint64 files = 0;
+    qint64 doneFiles = 0;
+};
 
 /// Takes a run back, or an undo: the journal's renames from the last to the first, a step at a time, as
 /// RenameRun does rows. It never replaces a file and moves none but those of the run. What stays can be tried
@@ -89,6 +107,9 @@ public:
     /// Takes the next rename back; no value after the last. An exchange is one call and gives two steps. A
     /// file that a planned run moved more than once has as many steps.
     [[nodiscard]] std::optional<UndoStep> next();
+    /// The same for whoever stops before the end and counts what is left: nothing is taken back. Such a step
+    /// is Refused.
+    [[nodiscard]] std::optional<UndoStep> skip();
     /// Ends the undo's own journal, lets go of the other, and removes what journals are too much.
     void end(bool cancelled);
 
@@ -96,10 +117,14 @@ public:
     [[nodiscard]] QString journalError() const;
 
 private:
+    [[nodiscard]] std::optional<TakenBack::Standing> nextEntry();
     UndoRun(JournalFolder &folder, const QString &name, Disk &on);
-    [[nodiscard]] UndoStep takeBack(const JournalEntry &entry);
-    [[nodiscard]] UndoStep::Result move(const JournalEntry &entry, UndoStep &step);
-    [[nodiscard]] UndoStep::Result resultOfLost(const UndoStep &step) const;
+    /// A rename, or one file of an exchange.
+    [[nodiscard]] UndoStep takeBack(const TakenBack::Standing &standing);
+    [[nodiscard]] UndoStep::Result move(const TakenBack::Standing &standing, UndoStep &step);
+    [[nodiscard]] UndoStep::Result resultOfLost(const TakenBack::Standing &standing, const UndoStep &step);
+    /// Whether the file there is one of those that the run exchanged.
+    [[nodiscard]] bool isExchanged(const QString &path);
     [[nodiscard]] UndoStep takeExchangeBack(const JournalEntry &entry);
     [[nodiscard]] UndoStep::Result exchange(const JournalEntry &entry, UndoStep &step);
 
@@ -109,9 +134,11 @@ private:
     QFile file;
     std::optional<BackwardEntries> entries;
     /// Entries that were taken back before.
-    QSet<qint64> gone;
+    TakenBack gone;
     QDateTime time;
     qint64 steps = 0;
+    /// Those files by their numbers, once somebody asked.
+    std::optional<QHash<quint64, FileStamp>> exchanged;
     /// Of an exchange that was taken back, what is to be told of the other file.
     std::optional<UndoStep> pending;
     /// The undo's own.

@@ -3,6 +3,7 @@
 
 #include "fault/faultrun.h"
 #include "fault/inject/systemfaults.h"
+#include "fault/mountedkind.h"
 #include "platform/filerename.h"
 #include "run/forecast.h"
 #include "run/renamerun.h"
@@ -11,31 +12,11 @@
 
 #include "fileidentity.h"
 
-#include <QProcess>
-
 #include <cerrno>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The letters of the file systems that mounted.py can mount.
-enum Kind {
-    Ext4 = 1,
-    Tmpfs = 2,
-    /// Ignores case; knows hard links, no rename without replacing.
-    Ntfs = 4,
-    /// Ignores case; knows neither, and gives each spelling of a name a number of its own.
-    Exfat = 8,
-    /// Ignores case.
-    Vfat = 16,
-    /// Ext4; ignores case and how accents are composed.
-    Casefold = 32
-};
-constexpr int sensitive = Ext4 | Tmpfs;
-constexpr int insensitive = Ntfs | Exfat | Vfat | Casefold;
-constexpr int all = sensitive | insensitive;
-constexpr int none = 0;
 
 /// What there is besides the file.
 enum Obstacle { NoObstacle, File, Folder, DanglingLink };
@@ -86,19 +67,7 @@ private:
     /// The names as they are on the disk itself.
     [[nodiscard]] QStringList namesOnDisk() const
     {
-        if (!is(Ntfs))
-            return contents().keys();
-        const QString copy = run->tree.path(u"image"_s);
-        QFile::copy(qEnvironmentVariable("ORVANTO_MOUNT_IMAGE"), copy);
-        QProcess ntfsls;
-        ntfsls.start(u"ntfsls"_s, {u"-f"_s, u"-p"_s, folder.mid(mount.size()), copy});
-        if (!ntfsls.waitForFinished())
-            qFatal("ntfsls: %s", qPrintable(ntfsls.errorString()));
-        QStringList names =
-            QString::fromUtf8(ntfsls.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-        names.removeAll(u"."_s);
-        names.sort();
-        return names;
+        return is(Ntfs) ? namesOnNtfs(folder, run->tree.path(u"image"_s)) : contents().keys();
     }
     [[nodiscard]] bool is(int kinds) const { return (kind & kinds) != 0; }
     void makeFolder()
@@ -111,10 +80,7 @@ private slots:
     void initTestCase()
     {
         mount = qEnvironmentVariable("ORVANTO_MOUNT");
-        const QMap<QString, int> kinds = {{u"ext4"_s, Ext4}, {u"tmpfs"_s, Tmpfs},
-                                          {u"ntfs"_s, Ntfs}, {u"exfat"_s, Exfat},
-                                          {u"vfat"_s, Vfat}, {u"casefold"_s, Casefold}};
-        kind = kinds.value(qEnvironmentVariable("ORVANTO_MOUNT_KIND"), none);
+        kind = mountedKind();
         QVERIFY2(kind != none, "mounted.py runs this test");
         QVERIFY(QDir(mount).exists());
     }

@@ -87,7 +87,8 @@ extern "C" {
 int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
 {
     static const auto real = original<decltype(&renameat2)>("renameat2");
-    return through(SystemCall::RenameNoReplace, from,
+    const bool isExchange = (flags & RENAME_EXCHANGE) != 0;
+    return through(isExchange ? SystemCall::Exchange : SystemCall::RenameNoReplace, from,
                    [&] { return real(fromFolder, from, toFolder, to, flags); });
 }
 

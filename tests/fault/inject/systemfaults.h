@@ -8,7 +8,7 @@
 #include <string>
 
 /// The system calls through which files are renamed and written.
-enum class SystemCall { RenameNoReplace, Rename, Link, GiveName, Unlink, Write, Sync };
+enum class SystemCall { RenameNoReplace, Exchange, Rename, Link, GiveName, Unlink, Write, Sync };
 
 /// What happens to calls about a path that holds the given part: the source of a rename or a link, the name
 /// that a file without one gets, the file that is written.
@@ -44,16 +44,21 @@ public:
     /// Every way of moving the file fails with this error.
     void refuseMoving(const std::string &part, int error)
     {
-        for (const auto call : {SystemCall::RenameNoReplace, SystemCall::Rename, SystemCall::Link})
+        for (const auto call :
+             {SystemCall::RenameNoReplace, SystemCall::Exchange, SystemCall::Rename, SystemCall::Link})
             add({.call = call, .part = part, .error = error});
     }
-    /// As on file systems that know no rename without replacing, and no hard links either unless told.
+    /// As on file systems that know neither rename without replacing nor exchanges, and no hard links either
+    /// unless told.
     void forgetNoReplace(bool hardLinks, int linkError)
     {
         add({.call = SystemCall::RenameNoReplace, .part = "/", .error = noReplaceError});
+        forgetExchange();
         if (!hardLinks)
             add({.call = SystemCall::Link, .part = "/", .error = linkError});
     }
+    /// As on most file systems.
+    void forgetExchange() { add({.call = SystemCall::Exchange, .part = "/", .error = noReplaceError}); }
     void clear() { faults.clear(); }
 
     /// The calls that were made to fail, or delayed, so far.

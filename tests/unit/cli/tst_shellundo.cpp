@@ -5,6 +5,7 @@
 #include "run/journalleddisk.h"
 #include "run/renamerun.h"
 #include "run/systemdisk.h"
+#include "support/plannedscene.h"
 #include "unit/cli/shelltest.h"
 
 #include <QTest>
@@ -43,6 +44,26 @@ QString interruptShift(ShellTest &shell, const TestFolder &folder)
     return shell.run({u"history"_s, u"--json"_s}).objects().value(0).value("run"_L1).toString();
 }
 
+/// a gets the name b, b c, and c a.
+void renameARing(const QString &data, const TestFolder &folder)
+{
+    const PlannedScene scene(folder.path(), u"a>b b>c c>a"_s);
+    scene.plant();
+    const SystemDiskView view;
+    Plan plan(view);
+    scene.fill(plan);
+    JournalFolder journals(data + u"/undo"_s);
+    QString error;
+    const auto journal = journals.beginPlanned(u"1.0"_s, scene.count(), &error);
+    QVERIFY2(journal, qPrintable(error));
+    SystemDisk disk;
+    PlannedRun run(disk, plan, journal.get());
+    while (run.next()) {
+    }
+    run.end();
+    QCOMPARE(run.state(), PlannedRun::State::Done);
+}
+
 } // namespace
 
 /// Taking runs back from a shell, and the list of them.
@@ -62,6 +83,7 @@ private slots:
     void historyTellsOfEveryRun();
     void unfinishedRunHasThreeWaysOn();
     void unfinishedRunThatCannotBeFinishedIsLeftAlone();
+    void filesOfARingAreCounted();
 };
 
 void TestShellUndo::runsOfTheWindowAreTakenBack()
@@ -252,6 +274,46 @@ void TestShellUndo::unfinishedRunThatCannotBeFinishedIsLeftAlone()
     QVERIFY2(ended.trouble.contains("/002: the file is not there\n"), ended.trouble.constData());
     QCOMPARE(folder.names(), (QStringList{u"000"_s, u"003"_s}));
     QVERIFY(shell.run({u"history"_s}).trouble.contains("--finish"));
+}
+
+// By exchanges or by a third name: some of its files are renamed twice.
+void TestShellUndo::filesOfARingAreCounted()
+{
+    const TestFolder folder;
+    ShellTest shell;
+    renameARing(shell.data.path(), folder);
+    int left = 1;
+    shell.isInterrupted = [&left] {
+        return left-- <= 0;
+    };
+    auto ended = shell.run({u"undo"_s, u"--yes"_s});
+    QCOMPARE(ended.code, ExitCode::Interrupted);
+    QVERIFY2(ended.trouble.contains(" of 3 files have their old names\n"), ended.trouble.constData());
+    shell.isInterrupted = [] {
+        return false;
+    };
+    QCOMPARE(shell.run({u"undo"_s, u"--yes"_s}).code, ExitCode::Done);
+    QCOMPARE(folder.content(u"b"_s), "b");
+    for (const QString &name : folder.names())
+        QVERIFY(QFile::remove(folder.path(name)));
+
+    renameARing(shell.data.path(), folder);
+    QVERIFY(QFile::remove(folder.path(u"a"_s)));
+    ended = shell.run({u"undo"_s, u"--yes"_s});
+    QCOMPARE(ended.code, ExitCode::SomeFailed);
+    QVERIFY2(ended.trouble.contains("taken back: 2 of 3 files have their old names\n"),
+             ended.trouble.constData());
+    QCOMPARE(folder.names(), (QStringList{u"a"_s, u"b"_s}));
+    // What is lost is told again, and the list of runs tells that something stands.
+    for (int again = 0; again < 2; ++again) {
+        ended = shell.run({u"undo"_s, u"--yes"_s, u"--json"_s});
+        QCOMPARE(ended.objects().size(), 1);
+        QCOMPARE(ended.objects().at(0).value("outcome"_L1).toString(), u"missing"_s);
+    }
+    QVERIFY(shell.run({u"history"_s}).out.contains("partly taken back"));
+    ended = shell.run({u"undo"_s, u"--yes"_s});
+    QVERIFY2(ended.trouble.contains("taken back: 0 of 1 file have their old names\n"),
+             ended.trouble.constData());
 }
 
 QTEST_GUILESS_MAIN(TestShellUndo)

@@ -217,6 +217,22 @@ private slots:
         openWithShell(u"C:\\"_s + QString(300, u'a'));
         openWithShell(u"C:\\"_s, QString(300, u'a'));
     }
+
+    /// The system has no such step: planned runs go by a third name.
+    void nothingIsExchanged()
+    {
+        const TempTree folder;
+        const QStringList names = {u"a"_s, u"b"_s, u"folder"_s};
+        folder.addFile(u"a"_s);
+        folder.addFile(u"b"_s);
+        folder.addFolder(u"folder"_s);
+        FileRenamer renamer;
+        for (const QString &other : {u"b"_s, u"folder"_s, u"missing"_s, u"a"_s})
+            QCOMPARE(renamer.exchange(folder.path(u"a"_s), folder.path(other)), std::nullopt);
+        QCOMPARE(folder.names(), names);
+        QCOMPARE(folder.content(u"a"_s), "a");
+        QCOMPARE(folder.content(u"b"_s), "b");
+    }
 };
 
 QTEST_MAIN(TestSystemWindows)

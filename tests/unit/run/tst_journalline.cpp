@@ -3,9 +3,8 @@
 
 #include "run/journalline.h"
 #include "run/jsontext.h"
+#include "unit/run/journaljson.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -14,21 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QJsonObject document(const QByteArray &line)
-{
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
-    if (error.error != QJsonParseError::NoError)
-        qWarning("%s: %s", qPrintable(error.errorString()), line.constData());
-    return document.object();
-}
-
-/// A line without its newline.
-QByteArray inside(const QByteArray &line)
-{
-    return line.endsWith('\n') && line.count('\n') == 1 ? line.chopped(1) : QByteArray();
-}
 
 QByteArray quoted(const QString &text)
 {
@@ -222,6 +206,51 @@ void TestJournalLine::whatIsNoLineIsNone_data()
         R"({"kind":"end","state":"odd","renamed":1,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
         R"({"kind":"end","state":"complete","renamed":-1,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
         R"({"kind":"end","state":"complete","renamed":1099511627777,"refused":1,"kept":0,"unrecorded":0,"folders":1})",
+        R"({"kind":"run","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","rows":3,"planned":-1})",
+        R"({"kind":"run","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","rows":3,"planned":1099511627777})",
+        R"({"kind":"run","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","rows":-1,"planned":3})",
+        R"({"kind":"run","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","rows":3,"planned":3,"of":"x"})",
+        R"({"kind":"undo","format":"orvanto-journal","version":2,"time":"2026-08-01T13:57:41.123Z","rows":3})",
+        R"({"kind":"wish"})",
+        R"({"kind":"wish","from":"a"})",
+        R"({"kind":"wish","to":"b"})",
+        R"({"kind":"wish","from":"a","to":1})",
+        R"({"kind":"wish","from":["a"],"to":"b"})",
+        R"({"kind":"wish","from":"a","to":"b","folder":null})",
+        R"({"kind":"wish","from":"a","to":"b","file":true})",
+        "{\"kind\":\"wish\",\"from\":\"a\",\"to\":\"\xed\xa0\x80\"}",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","other":"5"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"0","other":"5"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"0"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"-6"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"x"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"18446744073709551616"})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":6})",
+        R"({"kind":"exchange","n":1,"folder":"","from":"a","to":"b","volume":"1","size":5,"modified":6,"other":"6"})",
+        R"({"kind":"exchange","n":-1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"6"})",
+        R"({"kind":"exchange","n":1,"of":-1,"folder":"","from":"a","to":"b","volume":"1","file":"5","other":"6"})",
+        R"({"kind":"exchange","n":1,"from":"a","to":"b","volume":"1","file":"5","other":"6"})",
+        R"({"kind":"rename","n":1,"of":1,"half":3,"folder":"","from":"a","to":"b"})",
+        R"({"kind":"rename","n":1,"of":1,"half":-1,"folder":"","from":"a","to":"b"})",
+        R"({"kind":"kept","of":1,"half":3})",
+        R"({"kind":"back"})",
+        R"({"kind":"back","n":-1})",
+        R"({"kind":"back","n":"1"})",
+        R"({"kind":"back","of":1})",
+        R"({"kind":"back","n":1,"files":0})",
+        R"({"kind":"back","n":1,"files":3})",
+        R"({"kind":"back","n":1,"files":-2})",
+        R"({"kind":"back","n":1,"files":4294967297})",
+        R"({"kind":"kept","of":1,"files":0})",
+        R"({"kind":"kept","of":1,"files":3})",
+        R"({"kind":"kept","of":1,"files":1e0})",
+        R"({"kind":"so far"})",
+        R"({"kind":"so far","renamed":1,"refused":0,"kept":0,"unrecorded":0})",
+        R"({"kind":"so far","renamed":1,"refused":0,"kept":0,"unrecorded":0,"folders":"1"})",
+        R"({"kind":"Left"})",
+        R"({"kind":"left"}{"kind":"left"})",
         R"({"kind":"refused"})",
         R"({"kind":"kept","of":-1})",
         R"({"a":1,"b":1,"c":1,"d":1,"e":1,"f":1,"g":1,"h":1,"i":1,"j":1,"k":1,"l":1,"m":1,"n":1,"o":1,"kind":"left","q":1})",
