@@ -5,7 +5,7 @@
 
 Each is used by mouse and keyboard on a desktop of its own to put "new_" before the name of every file of one folder on
 the RAM disk. PROGRAMS is the folder of the built program; RESULTS gets table.md, figures.json and a picture of each
-program after each step. To be started by "windowpeers". How it is measured: watching.py.
+program after each step. To be started by "windowpeers". How it is watched: watching.py.
 
 To the list: from the files being given until the program rests. Orvanto gets them by Ctrl+V once it runs; the others
 by their command line, so that their start is in it.
@@ -65,7 +65,8 @@ class Sitting:
     def start(self, *command, **environment):
         """Starts the program in the folder with the files; returns when that was."""
         self.desktop.env.update(environment, NO_AT_BRIDGE="1", PWD=str(self.folder))
-        confined = ["unshare", "--map-root-user", "--mount", "sh", "-c", CONFINED, "sh", self.folder, self.desktop.folder]
+        confined = ["unshare", "--map-root-user", "--mount", "sh", "-c", CONFINED, "sh", self.folder,
+                    self.desktop.folder]
         begin = time.time()
         self.program = self.desktop.spawn([str(word) for word in (*confined, *command)])
         if self.person:
@@ -273,7 +274,8 @@ def cell(row, name):
 
 
 def table(rows):
-    lines = ["| files | program | to the list | to the preview | rename | until it rests | without an answer | load | |",
+    lines = ["| files | program | to the list | to the preview | rename | until it rests | without an answer "
+             "| load | |",
              "|---:|---|---:|---:|---:|---:|---:|---:|---|"]
     for row in rows:
         waits = [row[name][1] for name in ("list", "preview", "rename") if name in row]
