@@ -84,7 +84,7 @@ class Sitting:
             if self.program.poll() is not None:
                 raise Failure(f"ended with {self.program.returncode}")
             time.sleep(0.02)
-        raise Failure(f"no window {words!r}")
+        raise Failure(f"list: no window {words!r} in ten minutes")
 
     def rest(self, begin=None):
         phase = self.person.until_rest(begin or time.time(), LIMIT)
