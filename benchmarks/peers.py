@@ -5,7 +5,7 @@
 """What programs for a shell make of renames that get in each other's way: the table of docs/behaviour.md.
 Usage: benchmarks/peers.py ORVANTO_CLI
 Each program renames real files in a folder of its own; each file holds its old name, so that it shows which one is
-lost. Debian's packages mmv, rename and util-linux have the others.
+lost. Debian's packages mmv, rename, util-linux and moreutils have the others.
 """
 
 import pathlib
@@ -14,7 +14,8 @@ import sys
 import tempfile
 
 PLANNED, CLASSIC, MMV, PERL, UTIL = "orvanto-cli", "orvanto-cli --classic", "mmv", "rename (Perl)", "rename.ul"
-PROGRAMS = (PLANNED, CLASSIC, MMV, PERL, UTIL)
+VIDIR = "vidir"
+PROGRAMS = (PLANNED, CLASSIC, MMV, PERL, UTIL, VIDIR)
 
 
 def orvanto(*words):
@@ -51,7 +52,17 @@ def command(program, cli, case, names):
         return ["mmv", "--", *mmv]
     if program == PERL:
         return ["file-rename", perl, *names]
+    if program == VIDIR:
+        return ["vidir", *names]
     return ["rename.ul", "--", *util, *names] if util is not None else None
+
+
+def make_editor(file, rows):
+    """What a person does in vidir's editor: each name behind its number becomes the new one."""
+    steps = "".join(f"s/\t{old}$/\t{new}/;t;" for old, new in rows.items())
+    file.write_text(f"#!/bin/sh\nexec sed -i '{steps}' \"$1\"\n", encoding="utf-8")
+    file.chmod(0o700)
+    return str(file)
 
 
 def verdict(program, cli, case):
@@ -66,7 +77,8 @@ def verdict(program, cli, case):
         if words is None:
             return "cannot be said"
         subprocess.run(words, cwd=folder, stdin=subprocess.DEVNULL, capture_output=True, check=False, timeout=60,
-                       env={"PATH": "/usr/bin:/bin", "HOME": parent, "LC_ALL": "C.UTF-8"})
+                       env={"PATH": "/usr/bin:/bin", "HOME": parent, "LC_ALL": "C.UTF-8",
+                            "EDITOR": make_editor(pathlib.Path(parent) / "editor", rows)})
         after = {path.name: path.read_text(encoding="utf-8") for path in folder.iterdir()}
     lost = sorted(set(before.values()) - set(after.values()))
     if lost:
@@ -74,6 +86,9 @@ def verdict(program, cli, case):
     wanted = {rows.get(name, name): name for name in before}
     if len(wanted) == len(before) and after == wanted:
         return "does it"
+    invented = set(after) - set(before) - set(rows.values())
+    if invented:
+        return f"gives {len(invented)} file a name of its own"
     renamed = len(before) - sum(after.get(name) == name for name in before)
     return "refuses, touches nothing" if after == before else f"renames {renamed} of {len(rows)}"
 

@@ -11,6 +11,7 @@ build_packages=(
 )
 run_packages=(fonts-dejavu-core xdg-utils)
 benchmark_packages=(gnuplot-nox mmv mold moreutils python3 rename util-linux)
+window_benchmark_packages=(doublecmd-gtk gprename krename python3-xlib thunar)
 virtual_display_packages=(novnc openbox python3 websockify x11vnc xvfb)
 test_packages=(
     at-spi2-core binutils clang-format-14 dbus dbus-bin dbus-daemon dosfstools e2fsprogs exfat-fuse exfatprogs
