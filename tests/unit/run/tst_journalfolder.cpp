@@ -274,7 +274,12 @@ private slots:
         files->write(a, undoOf(b));
         files->write(b, undoOf(a));
         QCOMPARE(files->info(a).state, JournalInfo::State::Unreadable);
-        QVERIFY(files->journals.takenBack(a, files->journals.list()).size() <= 1);
+        const TakenBack back = files->journals.takenBack(a, files->journals.list());
+        int gone = 0;
+        JournalEntry entry;
+        for (entry.number = 0; entry.number < 10; ++entry.number)
+            gone += back.standing(entry) ? 0 : 1;
+        QVERIFY(gone <= 1);
         files->journals.prune();
         QVERIFY(files->journals.forget(a));
     }
