@@ -8,9 +8,12 @@
 #include "run/listorder.h"
 
 #include <QHash>
+#include <QStringTokenizer>
 
+#include <algorithm>
 #include <limits>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -51,19 +54,23 @@ public:
     {
         struct Text
         {
-            SortKey key;
+            std::vector<SortKey> keys;
             QString text;
             int number;
-            // Two texts may have one place: their files do not mix.
             bool operator<(const Text &other) const
             {
-                const int order = key.compare(other.key);
-                return order < 0 || (order == 0 && text < other.text);
+                const size_t both = std::min(keys.size(), other.keys.size());
+                for (size_t i = 0; i < both; ++i) {
+                    if (const int order = keys[i].compare(other.keys[i]); order != 0)
+                        return order < 0;
+                }
+                // Two texts may have one place: their files do not mix.
+                return keys.size() != other.keys.size() ? keys.size() < other.keys.size() : text < other.text;
             }
         };
         SortedItems<Text> sorted;
         for (int number = 0; number < texts.size(); ++number)
-            sorted.add({keyOf(texts.at(number), natural), texts.at(number), number});
+            sorted.add({keysOf(texts.at(number), natural), texts.at(number), number});
         ranks.resize(texts.size());
         int rank = 0;
         sorted.take([&](Text &&text) { ranks[text.number] = rank++; });
@@ -72,10 +79,17 @@ public:
     [[nodiscard]] int rankOf(int number) const { return ranks.at(number); }
 
 private:
-    static SortKey keyOf(QString text, const NaturalOrder &natural)
+    /// Folder by folder: no separator comes before all that names may have, in every system's order.
+    [[nodiscard]] std::vector<SortKey> keysOf(const QString &text, const NaturalOrder &natural)
     {
-        // A folder's name ends before any that goes on: nothing that names have comes before a tab.
-        return natural.key(text.replace(u'/', u'\t'));
+        std::vector<SortKey> all;
+        for (const QStringView part : QStringTokenizer(text, u'/')) {
+            auto key = keys.constFind(part);
+            if (key == keys.constEnd())
+                key = keys.insert(part, natural.key(part.toString()));
+            all.push_back(*key);
+        }
+        return all;
     }
 
     [[nodiscard]] int add(const QString &text)
@@ -89,6 +103,8 @@ private:
 
     QStringList texts;
     QHash<QString, int> numbers;
+    /// Of parts of the texts.
+    QHash<QStringView, SortKey> keys;
     QList<int> ranks;
     int last = -1;
 };

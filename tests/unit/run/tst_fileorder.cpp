@@ -178,8 +178,9 @@ private slots:
             QString text;
             for (int i = 1 + random.bounded(3); i > 0; --i)
                 text += parts.at(random.bounded(7));
-            // Names that have a dot alone before them are no matter here.
-            return u'x' + text;
+            // Names that have a dot alone before them are no matter here, nor what Windows drops at their
+            // end.
+            return u'x' + text + u'x';
         };
         QStringList paths;
         const bool isOnDisk = by == By::Size || by == By::Modified;
