@@ -8,6 +8,7 @@ buildProgram() {
     [[ -x $qtDir/bin/qt-cmake ]] || fail "no Qt for Windows in $qtDir: run the step qt first"
     say "Building Orvanto for Windows"
     qtCmake -S "$projectDir" -B "$buildDir" -DCMAKE_EXE_LINKER_FLAGS_RELEASE=-s \
+        -DORVANTO_PRECOMPILE=ON -DORVANTO_TEST_FLAGS=-O0 \
         -DCMAKE_CROSSCOMPILING_EMULATOR="$windowsDir/wine-run"
     ninja -C "$buildDir" -j "$jobs"
     local program

@@ -84,8 +84,8 @@ class Console(unittest.TestCase):
         self.assertEqual(self.content(), {"2": "1", "3": "2", "4": "3"})
         self.run_program("undo", "--yes")
         self.assertEqual(self.content(), {"1": "1", "2": "2", "3": "3"})
-        self.run_program("apply", "--yes", "--regexp", "^([12])$", "x\\1", "--replace", "x1", "2", "--replace", "x2", "1",
-                         "1", "2")
+        swap = ("--regexp", "^([12])$", "x\\1", "--replace", "x1", "2", "--replace", "x2", "1")
+        self.run_program("apply", "--yes", *swap, "1", "2")
         self.assertEqual(self.content(), {"1": "2", "2": "1", "3": "3"})
         self.run_program("undo", "--yes")
         self.assertEqual(self.content(), {"1": "1", "2": "2", "3": "3"})
@@ -102,7 +102,8 @@ class Console(unittest.TestCase):
     def test_output_is_utf_8_under_another_code_page(self):
         self.make(NAMES)
         program = "Z:" + PROGRAM.replace("/", "\\")
-        (FOLDER / "go.cmd").write_text(f'@chcp 850 >nul\r\n@"{program}" preview --print0 --insert Y@0 --filter *.txt . >out\r\n')
+        preview = f'@"{program}" preview --print0 --insert Y@0 --filter *.txt . >out'
+        (FOLDER / "go.cmd").write_text(f"@chcp 850 >nul\r\n{preview}\r\n")
         self.run_program("/c", "go.cmd", command=("cmd",))
         printed = (FOLDER / "out").read_bytes().decode().rstrip("\0").split("\0")
         self.assertEqual({pathlib.PureWindowsPath(path).name for path in printed}, {f"Y{name}" for name in NAMES})

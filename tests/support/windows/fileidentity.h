@@ -16,14 +16,14 @@ struct SeenFile
     quint32 mode = 0;
 };
 
-inline QString extendedPath(const QString &path)
+inline QString longPath(const QString &path)
 {
     return QLatin1String("\\\\?\\") + QDir::toNativeSeparators(QDir::current().absoluteFilePath(path));
 }
 
 inline SeenFile identityOf(const QString &path)
 {
-    const auto name = extendedPath(path).toStdWString();
+    const auto name = longPath(path).toStdWString();
     constexpr DWORD shared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const HANDLE handle = CreateFileW(name.c_str(), 0, shared, nullptr, OPEN_EXISTING,
                                       FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
@@ -39,8 +39,8 @@ inline SeenFile identityOf(const QString &path)
 /// A second name of the same file.
 inline bool makeHardLink(const QString &file, const QString &name)
 {
-    return CreateHardLinkW(extendedPath(name).toStdWString().c_str(),
-                           extendedPath(file).toStdWString().c_str(), nullptr) != FALSE;
+    return CreateHardLinkW(longPath(name).toStdWString().c_str(), longPath(file).toStdWString().c_str(),
+                           nullptr) != FALSE;
 }
 
 /// Pipes have no place among files here.
