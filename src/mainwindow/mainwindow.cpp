@@ -308,6 +308,8 @@ void MainWindow::adjustToTexts()
     }
     ui->listWidgetFiles->setAccessibleName(ui->groupBox->title());
     ui->treeWidgetRules->setAccessibleName(ui->groupBox_3->title());
+    // Windows' readers are told nothing else of it but what is chosen.
+    ui->comboBoxRules->setAccessibleName(ui->treeWidgetRules->headerItem()->text(0));
     ui->tableWidgetLog->setAccessibleName(ui->dockWidgetLog->windowTitle());
     if (dockExplorer)
         treeExplorer->setAccessibleName(dockExplorer->windowTitle());
